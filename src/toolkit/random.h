@@ -1,0 +1,30 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <random>
+
+/// The largest whole number not above `value`.
+int Int(double value);
+
+/// The one sequence of random numbers of a program.
+class Random {
+ public:
+  /// The next value: at least 0, below 1, in steps of 2^-53.
+  double Rnd();
+
+  /// Draws the next value and makes of it a whole number from 0 to `count` - 1.
+  int Draw(int count) { return Int(Rnd() * count); }
+
+  /// Starts the sequence over: equal seeds give equal values from here on.
+  void Randomize(double seed);
+
+  /// Hands out these values instead of the generator's, whatever the seed. Empty: the generator's.
+  std::function<double()> Script;
+
+  /// How many values have been drawn so far.
+  std::int64_t DrawCount = 0;
+
+ private:
+  std::mt19937_64 generator;
+};

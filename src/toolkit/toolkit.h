@@ -1,0 +1,57 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "toolkit/host.h"
+#include "toolkit/pointer.h"
+#include "toolkit/random.h"
+
+/// A small window toolkit on one thread. Handlers start from `Run` or from `DoEvents`, never from a
+/// host, and only `DoEvents` and `MsgBox` wait.
+class Toolkit {
+ public:
+  explicit Toolkit(Host& host) : host(host) {}
+  Toolkit(const Toolkit&) = delete;
+  Toolkit& operator=(const Toolkit&) = delete;
+
+  /// The main loop. It is left by `End` alone.
+  [[noreturn]] void Run();
+
+  /// Delivers one due tick or one waiting event, and sleeps first until there is one.
+  void DoEvents();
+
+  /// Shows a modal message and returns when the user has closed it. Timers are held meanwhile, and
+  /// a drag under way is cancelled.
+  void MsgBox(const std::string& text, MessageIcon icon, const std::string& title);
+
+  /// Shows a form in front of the others. The first time starts its timers and runs its `Load`.
+  void Show(Form& form);
+
+  /// Brings a form that is shown to the front.
+  void ZOrder(Form& form);
+
+  /// Closes a form: runs its `Unload` and stops its timers. The last form takes the program along.
+  void Unload(Form& form);
+
+  /// Switches a timer. One that is on already does not start over; off forgets a due tick.
+  void SetEnabled(TimerControl& timer, bool enabled);
+
+  /// Seconds since midnight, with a fraction.
+  double Timer() { return host.SecondsSinceMidnight(); }
+
+  /// Stops the program at once, from any depth.
+  [[noreturn]] void End();
+
+  Random random;
+
+ private:
+  bool DeliverTick();
+  bool DeliverInput();
+  TimerControl* NextTimer() const;
+  void Refresh();
+
+  Host& host;
+  std::vector<Form*> forms;  // the loaded ones, the frontmost first
+  Pointer pointer;
+};
