@@ -1,0 +1,48 @@
+#include "computer/random_direction.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+Square SquareOf(const Position& position, int piece, bool isBlue) {
+  return isBlue ? position.BlueSquare[piece] : position.GreenSquare[piece];
+}
+
+/// For each direction of a set, in rising order, whether the piece can move that way.
+using Openings = std::array<bool, 4>;
+
+/// Draws until a draw names an open direction. No draw if none is open.
+Direction DrawOpening(Random& random, std::span<const Direction> directions,
+                      const Openings& openings) {
+  if (std::ranges::none_of(openings, [](bool isOpen) { return isOpen; })) return NoDirection;
+  for (;;) {
+    const auto entry = static_cast<std::size_t>(random.Draw(static_cast<int>(directions.size())));
+    if (openings[entry]) return directions[entry];
+  }
+}
+
+}  // namespace
+
+Direction RandomJumpDirection(Random& random, const Position& position, int piece,
+                              DirectionSetCode set, bool isBlue) {
+  const Square square = SquareOf(position, piece, isBlue);
+  const std::span<const Direction> directions = DirectionsOf(set);
+  Openings openings{};
+  for (std::size_t entry = 0; entry < directions.size(); ++entry) {
+    openings[entry] = CanJump(position, square, directions[entry], isBlue ? Green : Blue);
+  }
+  // A man with a single jump does not draw; a king does.
+  if (set != KingSet && openings[0] != openings[1]) return directions[openings[0] ? 0 : 1];
+  return DrawOpening(random, directions, openings);
+}
+
+Direction RandomStepDirection(Random& random, const Position& position, int piece, bool isBlue) {
+  const Square square = SquareOf(position, piece, isBlue);
+  const std::span<const Direction> directions = DirectionsOf(DirectionSet(position, piece, isBlue));
+  Openings openings{};
+  for (std::size_t entry = 0; entry < directions.size(); ++entry) {
+    openings[entry] = VacantOrZero(position, Neighbour(square, directions[entry])) != 0;
+  }
+  return DrawOpening(random, directions, openings);
+}
