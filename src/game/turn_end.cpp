@@ -1,0 +1,75 @@
+#include "game/turn_end.h"
+
+#include "computer/random_direction.h"
+#include "human/jump_path.h"
+
+namespace {
+
+struct PieceCounts {
+  int Blue = 0;
+  int Green = 0;
+};
+
+PieceCounts CrownAndCount(frmVelmoran& form) {
+  const Position& position = form.position;
+  PieceCounts counts;
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    if (IsGreenCrownSquare(position.GreenSquare[piece])) CrownChecker(form, piece, false);
+    if (IsBlueCrownSquare(position.BlueSquare[piece])) CrownChecker(form, piece, true);
+    if (position.GreenSquare[piece] != 0) ++counts.Green;
+    if (position.BlueSquare[piece] != 0) ++counts.Blue;
+  }
+  return counts;
+}
+
+/// Asks all twelve pieces for a step and for a jump: the random values that this takes are part of
+/// the play of every game, so the search must not stop at the first piece that can move.
+bool CanBlueMove(frmVelmoran& form) {
+  const Position& position = form.position;
+  Random& random = form.toolkit.random;
+  bool canMove = false;
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    if (RandomStepDirection(random, position, piece, true) != NoDirection) canMove = true;
+    const DirectionSetCode set = DirectionSet(position, piece, true);
+    if (RandomJumpDirection(random, position, piece, set, true) != NoDirection) canMove = true;
+  }
+  return canMove;
+}
+
+}  // namespace
+
+bool FinishTurn(frmVelmoran& form) {
+  ClearJumpPath(form);
+  const PieceCounts counts = CrownAndCount(form);
+  if (counts.Blue == 0) {
+    AnnounceGameEnd(form, "Blue has been captured!  YOU LOSE!!!");
+    return true;
+  }
+  if (counts.Green == 0) {
+    AnnounceGameEnd(form, "Green has been captured!  YOU WIN!!!");
+    SetBlueDragMode(form, 0);
+    return true;
+  }
+  // Only the end of the computer's move finds blue to move: after its own, green moves first.
+  if (!CanBlueMove(form) && form.position.BlueToMove) {
+    form.toolkit.SetEnabled(form.tmrPause, false);
+    AnnounceGameEnd(form, "Blue cannot move!  YOU LOSE!!!");
+    SetBlueDragMode(form, 0);
+  }
+  return false;
+}
+
+void CrownChecker(frmVelmoran& form, int piece, bool isBlue) {
+  if (isBlue) {
+    form.position.BlueKing[piece] = true;
+    form.imgBlueChecker[piece].Picture = form.picBlueKingREF.Picture;
+  } else {
+    form.position.GreenKing[piece] = true;
+    form.imgGreenChecker[piece].Picture = form.picGreenKingREF.Picture;
+  }
+}
+
+void AnnounceGameEnd(frmVelmoran& form, const char* text) {
+  form.toolkit.MsgBox(text, MessageIcon::Stop, "Game Over");
+  form.position.GameOver = true;
+}
