@@ -1,0 +1,83 @@
+#include "computer/turn.h"
+
+#include "computer/random_direction.h"
+#include "computer/ranking.h"
+#include "game/blink.h"
+#include "game/turn_end.h"
+#include "human/drop.h"
+
+namespace {
+
+/// One blink followed by one step or one jump.
+struct Stage {
+  Square TargetSquare = 0;
+  Square JumpedSquare = 0;  // 0: a step
+};
+
+Stage FirstStage(const MoveRecord& move) {
+  const bool isJump = move.Kind == MoveKindJump;
+  return {move.ToSquare, isJump ? Neighbour(move.FromSquare, move.Direction) : Square{0}};
+}
+
+/// The next jump of a chain, chosen at random; none if the piece cannot jump on.
+std::optional<Stage> NextStage(frmVelmoran& form, int piece) {
+  const Position& position = form.position;
+  const Square square = position.GreenSquare[piece];
+  const Direction direction = RandomJumpDirection(form.toolkit.random, position, piece,
+                                                  DirectionSet(position, piece, false), false);
+  if (direction == NoDirection) return std::nullopt;
+  return Stage{LandingSquare(square, direction), Neighbour(square, direction)};
+}
+
+/// Sleeps through the blink of a stage. New Game, which may arrive meanwhile, clears `BlinkStarted`
+/// and stops the timer: the blink asked for once more does not start then, and the wait is over.
+void WaitForBlink(frmVelmoran& form, int piece) {
+  for (;;) {
+    if (!form.BlinkStarted) {
+      form.BlinkStarted = true;
+      StartBlink(form, piece);
+    }
+    if (!form.tmrBlink.Enabled) break;
+    form.toolkit.DoEvents();
+  }
+  form.BlinkStarted = false;
+}
+
+void PlayStage(frmVelmoran& form, int piece, const Stage& stage) {
+  // The jumped piece goes first, or the next jump could take it twice.
+  if (stage.JumpedSquare != 0) RemoveCheckerAt(form, stage.JumpedSquare);
+  MoveGreenChecker(form, piece, stage.TargetSquare);
+}
+
+}  // namespace
+
+void tmrPause_Timer(frmVelmoran& form) {
+  if (!form.position.BlueToMove) ComputerTurn(form);
+  form.toolkit.SetEnabled(form.tmrPause, false);
+}
+
+void ComputerTurn(frmVelmoran& form) {
+  const auto reportError = [&form] { ShowProgramError(form.toolkit, 4); };
+  const std::optional<MoveRecord> move =
+      ChooseMove(form.toolkit.random, form.position, reportError);
+  if (!move) {
+    AnnounceGameEnd(form, "Green cannot move!  YOU WIN!!!");
+    SetBlueDragMode(form, 0);
+    return;
+  }
+  const int piece = move->Piece;
+  std::optional<Stage> stage = FirstStage(*move);
+  while (stage) {
+    WaitForBlink(form, piece);
+    if (form.position.NewGameRequested) return;  // the board is that of the new game
+    PlayStage(form, piece, *stage);
+    stage = stage->JumpedSquare != 0 ? NextStage(form, piece) : std::nullopt;
+  }
+  StartBlink(form, piece);
+  form.position.BlueToMove = true;
+}
+
+void MoveGreenChecker(frmVelmoran& form, int piece, Square square) {
+  PlaceImage(form, form.imgGreenChecker[piece], square);
+  form.position.GreenSquare[piece] = square;
+}
