@@ -1,0 +1,53 @@
+#pragma once
+
+#include <initializer_list>
+#include <string_view>
+
+#include "support/virtual_host.h"
+#include "ui/main_window.h"
+#include "ui/splash_window.h"
+
+/// The whole program on a virtual host, and a hand that plays on it.
+class Desk {
+ public:
+  Desk();
+
+  /// Opens the main window without a splash. The board is ready, and `tmrPause` has had its tick.
+  void OpenBoard();
+
+  /// Plays on from this position: places the pieces and shows them.
+  void SetPosition(const Position& position);
+
+  /// Hands out these random values in turn, then 0.5 over and over.
+  void Draws(std::vector<double> values);
+
+  /// One drag from the middle of the first square over those of the others, with one movement to
+  /// each, let go on the last.
+  void Drag(std::initializer_list<int> squares);
+
+  void Press(int square) { Pointer(InputEvent::Kind::Press, Middle(square)); }
+  void Move(int square) { Pointer(InputEvent::Kind::Move, Middle(square)); }
+  void Release(int square) { Pointer(InputEvent::Kind::Release, Middle(square)); }
+  void Pointer(InputEvent::Kind what, Point at);
+  void CancelDrag() { Pointer(InputEvent::Kind::CancelDrag, {}); }
+
+  /// Chooses a menu command by its name.
+  void Choose(std::string_view name);
+
+  void At(Instant when, std::function<void()> action) { host.At(when, std::move(action)); }
+
+  /// Delivers events and ticks until nothing is left to come.
+  void RunUntilQuiet();
+
+  /// Delivers all that comes up to this instant.
+  void RunUntil(Instant when);
+
+  /// The middle of a square.
+  Point Middle(int square) const;
+
+  VirtualHost host;
+  Toolkit toolkit{host};
+  frmVelmoran form{toolkit};
+  frmSplash splash{toolkit, form};
+  std::function<void()> AfterEvent;  // called after each delivered event, nested ones included
+};
