@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QWidget>
+#include <functional>
+#include <memory>
+
+#include "desktop/form_view.h"
+#include "desktop/input_filter.h"
+
+/// A form on the screen.
+class FormWindow {
+ public:
+  /// Builds and shows the window, in the centre of the screen. `sink` takes its raw input.
+  FormWindow(Form& shownForm, const std::function<void(const InputEvent&)>& sink);
+
+  /// Brings the window up to date.
+  void Refresh(const Drag& drag) { view->Refresh(drag); }
+
+  /// Brings the window in front of the others.
+  void Raise();
+
+  QWidget* Widget() const { return window.get(); }
+  const Form& ShownForm() const { return form; }
+
+ private:
+  void BuildFramed(const std::function<void(const InputEvent&)>& sink);
+
+  Form& form;
+  FormView* view = nullptr;  // is the window itself where there is no frame
+  InputFilter filter;
+  std::unique_ptr<QWidget> window;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+
+#include "toolkit/host.h"
+
+/// Translates what happens to a window into the raw input of its form.
+class InputFilter : public QObject {
+ public:
+  InputFilter(Form& inputForm, std::function<void(const InputEvent&)> inputSink)
+      : form(inputForm), sink(std::move(inputSink)) {}
+
+  /// `view` is the client area, `window` the whole; they may be the same.
+  void Watch(QObject* view, QObject* window);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool FilterPointer(QEvent* event);
+  void Put(InputEvent::Kind what, Point at = {});
+
+  Form& form;
+  std::function<void(const InputEvent&)> sink;
+  QObject* view = nullptr;
+  bool isLeftDown = false;  // as far as presses and releases have told
+};
