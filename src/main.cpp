@@ -2,6 +2,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "desktop/accessibility.h"
 #include "desktop/desktop_host.h"
 #include "ui/main_window.h"
 #include "ui/splash_window.h"
@@ -25,6 +26,8 @@ int main(int, char** argv) {
   QApplication::setDesktopFileName("velmoran");
   // Set any earlier, the platform would set it back.
   QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
+
+  InstallAccessibility();
 
   DesktopHost host;
   Toolkit toolkit(host);

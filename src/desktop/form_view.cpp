@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <ranges>
 
+#include "desktop/accessibility.h"
 #include "desktop/painting.h"
 
 namespace {
@@ -31,13 +32,16 @@ FormView::FormView(const Form& shownForm) : form(shownForm) {
 
 void FormView::Refresh(const Drag& drag) {
   looks.resize(form.Controls.size());
+  bool isChanged = false;
   for (std::size_t i = 0; i < looks.size(); ++i) {
     Look look = LookOf(*form.Controls[i]);
     if (look == looks[i]) continue;
     Repaint(looks[i].Place);
     Repaint(look.Place);
     looks[i] = std::move(look);
+    isChanged = true;
   }
+  if (isChanged) AnnounceChanges(*this);
   const std::optional<Rect> newOutline = OutlineOf(form, drag);
   if (newOutline == outline) return;
   if (outline) Repaint(*outline);

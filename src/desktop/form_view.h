@@ -13,6 +13,8 @@ class FormView : public QWidget {
   /// Compares the controls and the drag with what was painted last, and repaints what differs.
   void Refresh(const Drag& drag);
 
+  const Form& ShownForm() const { return form; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 

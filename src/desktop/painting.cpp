@@ -6,6 +6,16 @@ namespace {
 
 QPointF ToPoint(const std::pair<double, double>& corner) { return {corner.first, corner.second}; }
 
+/// Smoothing would dim the outermost pixels of a disc, which its box touches only in their middle.
+/// So it is drawn a hair too large and cut off at the box.
+void PaintEllipse(QPainter& painter, const QRectF& box) {
+  constexpr double Hair = 0.01;
+  painter.save();
+  painter.setClipRect(box, Qt::IntersectClip);
+  painter.drawEllipse(box.adjusted(-Hair, -Hair, Hair, Hair));
+  painter.restore();
+}
+
 void PaintShape(QPainter& painter, const PictureShape& shape) {
   const QColor fill = ToQColor(shape.Fill);
   // Round and slanted edges are smoothed. Straight ones are not: at a scale like 1.25 they would
@@ -19,7 +29,7 @@ void PaintShape(QPainter& painter, const PictureShape& shape) {
       painter.fillRect(QRectF(ToPoint(corners[0]), ToPoint(corners[1])), fill);
       break;
     case PictureShape::Kind::Ellipse:
-      painter.drawEllipse(QRectF(ToPoint(corners[0]), ToPoint(corners[1])));
+      PaintEllipse(painter, QRectF(ToPoint(corners[0]), ToPoint(corners[1])));
       break;
     case PictureShape::Kind::Polygon: {
       QPolygonF polygon;

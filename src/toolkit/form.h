@@ -35,5 +35,8 @@ struct Form {
   std::function<void()> Load;           // before the form is first seen
   std::function<void()> Unload;         // the form is being closed
 
+  /// What a control shows, in words for those who do not see it. Empty: there is nothing to tell.
+  std::function<std::string(const Control& control)> Describe;
+
   bool Visible = false;  // `Toolkit::Show` and `Toolkit::Unload` write it
 };

@@ -5,6 +5,7 @@
 #include "game/new_game.h"
 #include "human/drop.h"
 #include "human/jump_path.h"
+#include "ui/description.h"
 #include "ui/messages.h"
 #include "ui/pictures.h"
 
@@ -171,6 +172,10 @@ void BuildMainWindow(frmVelmoran& form) {
   form.window.Icon = &CheckerBoardPicture;
   form.window.Load = [&form] { Form_Load(form); };
   form.window.Unload = [&form] { Form_Unload(form); };
+  form.window.Describe = [&form](const Control& control) {
+    const bool isSquare = control.Name == "lblSquare";
+    return isSquare ? DescribeSquare(form.position, static_cast<Square>(control.Index)) : "";
+  };
   BuildPictureBoxes(form);
   BuildBoard(form);
   StackControls(form);

@@ -1,0 +1,99 @@
+#include "desktop/accessibility.h"
+
+#include <QAccessibleWidget>
+#include <vector>
+
+#include "desktop/form_view.h"
+#include "desktop/painting.h"
+
+namespace {
+
+/// One described control. Its name is asked for anew each time, so it is always true.
+class ControlAccessible : public QAccessibleInterface {
+ public:
+  ControlAccessible(FormView& formView, const Control& describedControl)
+      : view(formView), control(describedControl) {}
+
+  bool isValid() const override { return true; }
+  QObject* object() const override { return nullptr; }
+  QAccessibleInterface* parent() const override {
+    return QAccessible::queryAccessibleInterface(&view);
+  }
+  QAccessibleInterface* child(int) const override { return nullptr; }
+  QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+  int childCount() const override { return 0; }
+  int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+
+  QString text(QAccessible::Text kind) const override {
+    if (kind != QAccessible::Name) return {};
+    return QString::fromStdString(view.ShownForm().Describe(control));
+  }
+  void setText(QAccessible::Text, const QString&) override {}
+  QRect rect() const override {
+    const QRect place = PixelRectOf(control).toAlignedRect();
+    return {view.mapToGlobal(place.topLeft()), place.size()};
+  }
+  QAccessible::Role role() const override { return QAccessible::Graphic; }
+  QAccessible::State state() const override { return {}; }
+
+ private:
+  FormView& view;
+  const Control& control;
+};
+
+/// The view with its described controls, in their order on the form.
+class FormAccessible : public QAccessibleWidget {
+ public:
+  explicit FormAccessible(FormView& formView)
+      : QAccessibleWidget(&formView, QAccessible::Grouping,
+                          QString::fromStdString(formView.ShownForm().Caption).trimmed()) {
+    if (!formView.ShownForm().Describe) return;
+    for (const Control* control : formView.ShownForm().Controls) {
+      if (formView.ShownForm().Describe(*control).empty()) continue;
+      children.push_back(
+          QAccessible::registerAccessibleInterface(new ControlAccessible(formView, *control)));
+    }
+  }
+  ~FormAccessible() override {
+    for (const QAccessible::Id id : children) QAccessible::deleteAccessibleInterface(id);
+  }
+
+  int childCount() const override { return static_cast<int>(children.size()); }
+  QAccessibleInterface* child(int index) const override {
+    if (index < 0 || index >= childCount()) return nullptr;
+    return QAccessible::accessibleInterface(children[static_cast<std::size_t>(index)]);
+  }
+  int indexOfChild(const QAccessibleInterface* wanted) const override {
+    for (int index = 0; index < childCount(); ++index) {
+      if (child(index) == wanted) return index;
+    }
+    return -1;
+  }
+  QAccessibleInterface* childAt(int x, int y) const override {
+    for (int index = 0; index < childCount(); ++index) {
+      if (child(index)->rect().contains(x, y)) return child(index);
+    }
+    return nullptr;
+  }
+
+ private:
+  std::vector<QAccessible::Id> children;
+};
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+  auto* view = dynamic_cast<FormView*>(object);
+  return view ? new FormAccessible(*view) : nullptr;
+}
+
+}  // namespace
+
+void InstallAccessibility() { QAccessible::installFactory(MakeAccessible); }
+
+void AnnounceChanges(FormView& view) {
+  if (!QAccessible::isActive()) return;
+  QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&view);
+  for (int index = 0; board && index < board->childCount(); ++index) {
+    QAccessibleEvent changed(board->child(index), QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&changed);
+  }
+}
