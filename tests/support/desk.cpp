@@ -1,8 +1,7 @@
 #include "support/desk.h"
 
+#include <array>
 #include <stdexcept>
-
-#include "board/position.h"
 
 namespace {
 
@@ -19,6 +18,14 @@ const MenuItem* FindItem(const std::vector<MenuItem>& items, std::string_view na
 Desk::Desk() {
   BuildMainWindow(form);
   BuildSplashWindow(splash);
+  host.OnShow = [this] {
+    if (AfterEvent) AfterEvent();
+  };
+}
+
+Desk::Desk(const Position& position) : Desk() {
+  OpenBoard();
+  SetPosition(position);
 }
 
 void Desk::OpenBoard() {
@@ -42,15 +49,18 @@ void Desk::SetPosition(const Position& position) {
 }
 
 void Desk::Draws(std::vector<double> values) {
+  // The values behind the given ones name every direction in turn, so no retry goes on for ever.
   toolkit.random.Script = [values = std::move(values), next = std::size_t{0}]() mutable {
-    return next < values.size() ? values[next++] : 0.5;
+    constexpr std::array Others{0.1, 0.7, 0.3, 0.9};
+    const std::size_t index = next++;
+    return index < values.size() ? values[index] : Others[(index - values.size()) % 4];
   };
 }
 
-void Desk::Drag(std::initializer_list<int> squares) {
-  Press(*squares.begin());
+void Desk::Drag(const std::vector<int>& squares) {
+  Press(squares.front());
   for (const int square : squares) Move(square);
-  Release(*(squares.end() - 1));
+  Release(squares.back());
 }
 
 void Desk::Pointer(InputEvent::Kind what, Point at) {
@@ -61,6 +71,10 @@ void Desk::Choose(std::string_view name) {
   const MenuItem* item = FindItem(form.window.Menu, name);
   if (!item) throw std::invalid_argument("no such menu command");
   host.Put({.What = InputEvent::Kind::MenuCommand, .Window = &form.window, .Command = item});
+}
+
+void Desk::DeliverInput() {
+  while (!host.Queue.empty()) toolkit.DoEvents();
 }
 
 void Desk::RunUntilQuiet() {
@@ -76,7 +90,11 @@ void Desk::RunUntilQuiet() {
 
 void Desk::RunUntil(Instant when) {
   bool isReached = false;
-  At(when, [&isReached] { isReached = true; });
+  At(when, [&] {
+    isReached = true;
+    // Nobody but the loop below waits here, so the wait may be left.
+    if (!form.tmrPause.InHandler && !host.IsBoxOpen) throw Quiet{};
+  });
   try {
     while (!isReached) toolkit.DoEvents();
   } catch (const Quiet&) {

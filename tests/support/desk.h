@@ -1,8 +1,9 @@
 #pragma once
 
-#include <initializer_list>
 #include <string_view>
+#include <vector>
 
+#include "support/board.h"
 #include "support/virtual_host.h"
 #include "ui/main_window.h"
 #include "ui/splash_window.h"
@@ -12,18 +13,21 @@ class Desk {
  public:
   Desk();
 
+  /// Opens the main window on this position.
+  explicit Desk(const Position& position);
+
   /// Opens the main window without a splash. The board is ready, and `tmrPause` has had its tick.
   void OpenBoard();
 
   /// Plays on from this position: places the pieces and shows them.
   void SetPosition(const Position& position);
 
-  /// Hands out these random values in turn, then 0.5 over and over.
+  /// Hands out these random values in turn, then values from all over the range.
   void Draws(std::vector<double> values);
 
   /// One drag from the middle of the first square over those of the others, with one movement to
   /// each, let go on the last.
-  void Drag(std::initializer_list<int> squares);
+  void Drag(const std::vector<int>& squares);
 
   void Press(int square) { Pointer(InputEvent::Kind::Press, Middle(square)); }
   void Move(int square) { Pointer(InputEvent::Kind::Move, Middle(square)); }
@@ -36,10 +40,18 @@ class Desk {
 
   void At(Instant when, std::function<void()> action) { host.At(when, std::move(action)); }
 
+  /// Books an action for so much later than now.
+  void In(Instant delay, std::function<void()> action) {
+    At(host.Now() + delay, std::move(action));
+  }
+
+  /// Delivers the input that is queued now, and no tick that is not due.
+  void DeliverInput();
+
   /// Delivers events and ticks until nothing is left to come.
   void RunUntilQuiet();
 
-  /// Delivers all that comes up to this instant.
+  /// Delivers all that comes up to this instant; a turn of the computer is not left in the middle.
   void RunUntil(Instant when);
 
   /// The middle of a square.
@@ -49,5 +61,6 @@ class Desk {
   Toolkit toolkit{host};
   frmVelmoran form{toolkit};
   frmSplash splash{toolkit, form};
-  std::function<void()> AfterEvent;  // called after each delivered event, nested ones included
+  std::function<void()>
+      AfterEvent;  // called after each event, nested ones included, and before each wait
 };

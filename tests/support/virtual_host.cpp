@@ -23,6 +23,7 @@ void VirtualHost::ShowMessageBox(const MessageBox& box) {
 void VirtualHost::ShowForms(std::span<Form* const> forms, const Drag& drag) {
   Forms.assign(forms.begin(), forms.end());
   ShownDrag = drag;
+  if (OnShow) OnShow();
 }
 
 void VirtualHost::Put(const InputEvent& event) {

@@ -1,0 +1,66 @@
+#include "support/board.h"
+
+#include <algorithm>
+#include <ostream>
+#include <stdexcept>
+
+namespace {
+
+/// The place of a square in a picture without blanks.
+std::size_t PlaceOf(int square) {
+  return static_cast<std::size_t>((7 - (square - 1) / 4) * 4 + (square - 1) % 4);
+}
+
+}  // namespace
+
+Position Board(std::string_view picture) {
+  std::string marks(picture);
+  std::erase(marks, ' ');
+  const bool isBoard = marks.size() == Squares && marks.find_first_not_of(".bBgG") == marks.npos;
+  if (!isBoard) throw std::invalid_argument("a board is 8 rows of 4 squares");
+  Position position;
+  position.BlueToMove = true;
+  int blue = 0;
+  int green = 0;
+  for (int square = 1; square <= Squares; ++square) {
+    const char mark = marks[PlaceOf(square)];
+    if (mark == '.') continue;
+    const bool isBlue = mark == 'b' || mark == 'B';
+    int& piece = isBlue ? blue : green;
+    if (++piece > Pieces) throw std::invalid_argument("a side has 12 pieces");
+    (isBlue ? position.BlueSquare : position.GreenSquare)[piece] = static_cast<Square>(square);
+    (isBlue ? position.BlueKing : position.GreenKing)[piece] = mark == 'B' || mark == 'G';
+  }
+  return position;
+}
+
+Position StartPosition() { return Board("gggg gggg gggg .... .... bbbb bbbb bbbb"); }
+
+std::string Draw(const Position& position) {
+  std::string marks(Squares, '.');
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    const Square blue = position.BlueSquare[piece];
+    const Square green = position.GreenSquare[piece];
+    if (blue != 0) marks[PlaceOf(blue)] = position.BlueKing[piece] ? 'B' : 'b';
+    if (green != 0) marks[PlaceOf(green)] = position.GreenKing[piece] ? 'G' : 'g';
+  }
+  for (std::size_t row = 7; row > 0; --row) marks.insert(row * 4, 1, ' ');
+  return marks;
+}
+
+int GreenOn(const Position& position, Square square) {
+  const auto place = std::ranges::find(position.GreenSquare, square);
+  if (square == 0 || place == position.GreenSquare.end()) return 0;
+  return static_cast<int>(place - position.GreenSquare.begin()) + 1;
+}
+
+void PrintTo(const Position& position, std::ostream* out) {
+  const std::string rows = Draw(position);
+  for (std::size_t row = 0; row < 8; ++row) {
+    *out << (row % 2 == 0 ? "\n   " : "\n ");
+    for (std::size_t k = 0; k < 4; ++k) *out << rows[row * 5 + k] << "   ";
+  }
+  *out << "\n blue to move: " << position.BlueToMove << ", over: " << position.GameOver
+       << ", new game requested: " << position.NewGameRequested << ", path:";
+  for (const Square square : position.JumpPath) *out << ' ' << square;
+}
