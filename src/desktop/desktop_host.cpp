@@ -27,7 +27,11 @@ void DesktopHost::WaitForInput(std::optional<Instant> until) {
   if (!Queue.empty()) return;
   QEventLoop loop;
   waiting = &loop;
-  if (until) alarm.start(std::chrono::ceil<std::chrono::milliseconds>(*until - Now()));
+  if (until) {
+    // The instant may have passed meanwhile, and a timer refuses to start for less than nothing.
+    const auto delay = std::chrono::ceil<std::chrono::milliseconds>(*until - Now());
+    alarm.start(std::max(delay, std::chrono::milliseconds(0)));
+  }
   loop.exec();
   alarm.stop();
   waiting = nullptr;

@@ -1,6 +1,7 @@
 #include "toolkit/pointer.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <cstdlib>
 
 namespace {
@@ -36,6 +37,12 @@ const Control* Frontmost(const std::vector<const Control*>& controls, Point poin
   return hit == controls.end() ? nullptr : *hit;
 }
 
+/// The place after so many of the steps that lead from one place to another. A pointer far off the
+/// screen would overflow an int.
+int Between(int from, int to, int step, int steps) {
+  return from + static_cast<int>(std::int64_t{to - from} * step / steps);
+}
+
 }  // namespace
 
 const Control* ControlAt(const Form& form, Point point) {
@@ -44,13 +51,11 @@ const Control* ControlAt(const Form& form, Point point) {
 
 std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to) {
   const std::vector<const Control*> near = ControlsNear(form, from, to);
-  const int dx = to.X - from.X;
-  const int dy = to.Y - from.Y;
-  const int steps = (std::max(std::abs(dx), std::abs(dy)) + TwipsPerPixel - 1) / TwipsPerPixel;
+  const int way = std::max(std::abs(to.X - from.X), std::abs(to.Y - from.Y));
+  const int steps = std::max((way + TwipsPerPixel - 1) / TwipsPerPixel, 1);
   std::vector<const Control*> crossed;
   for (int step = 0; step <= steps; ++step) {
-    const Point point =
-        step == 0 ? from : Point{from.X + dx * step / steps, from.Y + dy * step / steps};
+    const Point point{Between(from.X, to.X, step, steps), Between(from.Y, to.Y, step, steps)};
     if (!IsInside(form, point)) continue;
     const Control* control = Frontmost(near, point);
     if (std::ranges::find(crossed, control) == crossed.end()) crossed.push_back(control);
