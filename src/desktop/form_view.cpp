@@ -2,7 +2,7 @@
 
 #include <QPaintEvent>
 #include <QPainter>
-#include <ranges>
+#include <algorithm>
 
 #include "desktop/accessibility.h"
 #include "desktop/painting.h"
@@ -53,11 +53,11 @@ void FormView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setClipRegion(event->region());
   painter.fillRect(rect(), ToQColor(form.BackColor));
-  for (const Control* control : std::views::reverse(form.Controls)) {
+  std::for_each(form.Controls.rbegin(), form.Controls.rend(), [&](const Control* control) {
     if (control->Visible && event->region().intersects(PixelRectOf(*control).toAlignedRect())) {
       PaintControl(painter, *control);
     }
-  }
+  });
   if (outline) PaintDragOutline(painter, PixelRect(*outline));
 }
 
