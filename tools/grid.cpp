@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
 #include <utility>
 
 namespace {
@@ -13,7 +12,19 @@ bool IsOnBoard(Cell cell) {
   return 0 <= cell.Row && cell.Row < 8 && 0 <= cell.Column && cell.Column < 8;
 }
 
-bool IsOneOf(char mark, const char* marks) { return std::strchr(marks, mark) != nullptr; }
+bool IsBlue(char mark) { return mark == 'b' || mark == 'B'; }
+
+bool IsGreen(char mark) { return mark == 'g' || mark == 'G'; }
+
+/// Calls `visit` with the cell of each mark that `is` names.
+template <typename Is, typename Visit>
+void ForEachPiece(const Grid& grid, Is is, Visit visit) {
+  for (int row = 0; row < 8; ++row) {
+    for (int column = row % 2; column < 8; column += 2) {
+      if (is(grid[{row, column}])) visit(Cell{row, column});
+    }
+  }
+}
 
 Cell Between(Cell from, Cell to) {
   return {(from.Row + to.Row) / 2, (from.Column + to.Column) / 2};
@@ -31,24 +42,15 @@ void ForEachWay(char mark, Visit visit) {
 /// Calls `visit` with each cell where a jump from `from` by a piece of this mark would end.
 template <typename Visit>
 void ForEachJump(const Grid& grid, Cell from, char mark, Visit visit) {
-  const char* prey = IsOneOf(mark, "bB") ? "gG" : "bB";
+  const auto isPrey = IsBlue(mark) ? IsGreen : IsBlue;
   ForEachWay(mark, [&](int rows, int columns) {
     const Cell over{from.Row + rows, from.Column + columns};
     const Cell to{over.Row + rows, over.Column + columns};
-    if (IsOnBoard(to) && IsOneOf(grid[over], prey) && grid[to] == '.') visit(to);
+    if (IsOnBoard(to) && isPrey(grid[over]) && grid[to] == '.') visit(to);
   });
 }
 
 GridMove Hop(Cell from, Cell to) { return {{from, to}, 2}; }
-
-template <typename Visit>
-void ForEachPiece(const Grid& grid, const char* marks, Visit visit) {
-  for (int row = 0; row < 8; ++row) {
-    for (int column = row % 2; column < 8; column += 2) {
-      if (IsOneOf(grid[{row, column}], marks)) visit(Cell{row, column});
-    }
-  }
-}
 
 /// Adds the jumps that lengthen `move`, and those that lengthen them.
 void AddChains(Grid& grid, char mark, GridMove& move, std::vector<GridMove>& moves) {
@@ -92,16 +94,22 @@ Grid GridOf(const Position& position) {
   return grid;
 }
 
-int CountMarks(const Grid& grid, const char* marks) {
-  int count = 0;
-  ForEachPiece(grid, marks, [&](Cell) { ++count; });
-  return count;
+bool HasBlue(const Grid& grid) {
+  bool has = false;
+  ForEachPiece(grid, IsBlue, [&](Cell) { has = true; });
+  return has;
+}
+
+bool HasGreen(const Grid& grid) {
+  bool has = false;
+  ForEachPiece(grid, IsGreen, [&](Cell) { has = true; });
+  return has;
 }
 
 std::vector<GridMove> HumanMoves(const Grid& grid) {
   std::vector<GridMove> moves;
   Grid lifted = grid;
-  ForEachPiece(grid, "bB", [&](Cell cell) {
+  ForEachPiece(grid, IsBlue, [&](Cell cell) {
     // The piece is in the hand: a circle of jumps may end where it began.
     const char mark = std::exchange(lifted[cell], '.');
     GridMove move{{cell}, 1};
@@ -109,13 +117,13 @@ std::vector<GridMove> HumanMoves(const Grid& grid) {
     lifted[cell] = mark;
   });
   if (!moves.empty()) return moves;
-  ForEachPiece(grid, "bB", [&](Cell cell) { AddSteps(grid, cell, moves); });
+  ForEachPiece(grid, IsBlue, [&](Cell cell) { AddSteps(grid, cell, moves); });
   return moves;
 }
 
 std::vector<GridMove> GreenHops(const Grid& grid) {
   std::vector<GridMove> moves;
-  ForEachPiece(grid, "gG", [&](Cell cell) {
+  ForEachPiece(grid, IsGreen, [&](Cell cell) {
     AddSteps(grid, cell, moves);
     ForEachJump(grid, cell, grid[cell], [&](Cell to) { moves.push_back(Hop(cell, to)); });
   });

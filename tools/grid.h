@@ -44,8 +44,9 @@ Grid GridOf(const Position& position);
 /// The place of a square, 1 to 32.
 Cell CellOf(Square square);
 
-/// How many of the marks stand on the board, such as "bB".
-int CountMarks(const Grid& grid, const char* marks);
+/// Whether the side has a piece left.
+bool HasBlue(const Grid& grid);
+bool HasGreen(const Grid& grid);
 
 /// All that the human may do: if there is a jump only jumps, each chain also stopped short.
 std::vector<GridMove> HumanMoves(const Grid& grid);

@@ -92,7 +92,7 @@ void RandomHand::AfterTheEnd(WatchedGame& game) {
 }
 
 void RandomHand::DragByTheRules(WatchedGame& game) {
-  const GridMove move = ChooseMove(game.referee.Board());
+  const GridMove move = ChooseMove(game.referee);
   game.referee.ExpectMove(Crowned(After(game.referee.Board(), move), 'b'));
   MoveAlong(game, move);
   game.Release(PointIn(move.To()));
@@ -100,7 +100,7 @@ void RandomHand::DragByTheRules(WatchedGame& game) {
 
 /// A drag that would be right, but ends without a drop; its release comes late or never.
 void RandomHand::DragCutOff(WatchedGame& game) {
-  const GridMove move = ChooseMove(game.referee.Board());
+  const GridMove move = ChooseMove(game.referee);
   MoveAlong(game, move);
   switch (dice.Roll(6)) {
     case 0:
@@ -146,8 +146,8 @@ void RandomHand::MoveAlong(WatchedGame& game, const GridMove& move) {
   }
 }
 
-GridMove RandomHand::ChooseMove(const Grid& board) {
-  const std::vector<GridMove> moves = HumanMoves(board);
+GridMove RandomHand::ChooseMove(Referee& referee) {
+  const std::vector<GridMove>& moves = referee.MovesOfHuman();
   return moves[static_cast<std::size_t>(dice.Roll(static_cast<int>(moves.size())))];
 }
 

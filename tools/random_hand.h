@@ -37,7 +37,7 @@ class RandomHand : public Hand {
   void OpenHelp(WatchedGame& game);
   void MoveAlong(WatchedGame& game, const GridMove& move);
 
-  GridMove ChooseMove(const Grid& board);
+  GridMove ChooseMove(Referee& referee);
   Point PointIn(Cell cell);
   Point PointAnywhere();
   Point PointOutside();

@@ -79,6 +79,13 @@ const char* NameOf(Phase phase) {
 
 void Referee::AfterEvent(const InputEvent* input, const Drag& drag) {
   if (!form.window.Visible) return;
+  // The screen is brought up to date before a wait, too, mostly with nothing new.
+  const std::array<int, 6> stateOfTimers{form.BlinkCount,         form.BlinkStarted,
+                                         form.tmrBlink.Enabled,   form.tmrPause.Enabled,
+                                         form.tmrBlink.InHandler, form.tmrPause.InHandler};
+  const bool isSame = stateOfTimers == lastTimers && form.position == last;
+  if (isSame && !input) return;
+  lastTimers = stateOfTimers;
   CheckTables();
   const bool isNewGame = !isOpen || (input && input->What == InputEvent::Kind::MenuCommand &&
                                      input->Command->Name == "mnuGame");
@@ -103,14 +110,14 @@ void Referee::AtBox(const MessageBox& box, const Drag& drag) {
   if (box.Title == "Game Over") {
     CheckGameOver(box.Text);
   } else if (box.Title == "Capture Required") {
-    Demand(IsHumansTurn() && HumanMoves(board).front().IsJump(), "no capture is required");
+    Demand(IsHumansTurn() && MovesOfHuman().front().IsJump(), "no capture is required");
     Demand(!expected, "a legal drag is refused for want of a capture");
   } else {
     Demand(box.Icon == MessageIcon::Information && isMenuBox, "nobody asked for this box");
   }
 }
 
-void Referee::BeforeWait(bool isTimerDue) const {
+void Referee::BeforeWait(bool isTimerDue) {
   if (!form.window.Visible) return;
   Demand(!form.tmrBlink.InHandler, "the handler of a blink waits");
   Demand(form.tmrPause.InHandler == (phase == Phase::Stage), "a turn waits outside of its stages");
@@ -121,7 +128,7 @@ void Referee::BeforeWait(bool isTimerDue) const {
          "the end of a game is waited for and not announced");
   Demand(!expected, "a legal drag has not been played");
   if (phase == Phase::Human) {
-    Demand(!HumanMoves(board).empty() && CountMarks(board, "gG") > 0, "the game is stuck");
+    Demand(!MovesOfHuman().empty() && HasGreen(board), "the game is stuck");
   }
 }
 
@@ -154,7 +161,17 @@ void Referee::CheckNewGame() {
   isAnnounced = false;
   expected.reset();
   chain.reset();
-  board = GridOf(form.position);
+  SetBoard(GridOf(form.position));
+}
+
+void Referee::SetBoard(const Grid& now) {
+  board = now;
+  movesOfHuman.reset();
+}
+
+const std::vector<GridMove>& Referee::MovesOfHuman() {
+  if (!movesOfHuman) movesOfHuman = HumanMoves(board);
+  return *movesOfHuman;
 }
 
 void Referee::CheckSuccession(Phase next) const {
@@ -165,9 +182,8 @@ void Referee::CheckSuccession(Phase next) const {
   Demand((next == Phase::Over) == isAnnounced || next == Phase::AllTaken || next == Phase::NoMove ||
              next == Phase::BlueHasLost,
          "a game is over from its announcement on");
-  Demand(
-      next != Phase::Over || form.imgBlueChecker[1].DragMode == 0 || CountMarks(board, "bB") == 0,
-      "a piece can be dragged after the end of the game");
+  Demand(next != Phase::Over || form.imgBlueChecker[1].DragMode == 0 || !HasBlue(board),
+         "a piece can be dragged after the end of the game");
   Demand(!form.position.NewGameRequested || next == Phase::Human,
          "the request for a new game lives until the human's drag");
 }
@@ -194,12 +210,12 @@ void Referee::CheckBoard(Phase next) {
   } else {
     Demand(isEndOfTurn && now == Crowned(board, 'g'), "the board changes out of turn");
   }
-  board = now;
+  SetBoard(now);
 }
 
 void Referee::CheckHumanMove(const Grid& now) {
   ++humanMoves;
-  const bool isLegal = std::ranges::any_of(HumanMoves(board), [&](const GridMove& move) {
+  const bool isLegal = std::ranges::any_of(MovesOfHuman(), [&](const GridMove& move) {
     return Crowned(After(board, move), 'b') == now;
   });
   Demand(isLegal, "the human's move is against the rules");
@@ -250,13 +266,13 @@ void Referee::CheckBlink() const {
 void Referee::CheckGameOver(const std::string& text) {
   Demand(!isAnnounced, "the end of a game is announced once");
   isAnnounced = true;
-  const bool hasBlue = CountMarks(board, "bB") > 0;
+  const bool hasBlue = HasBlue(board);
   if (text == "Blue has been captured!  YOU LOSE!!!") {
     Demand(phase == Phase::BlueHasLost && !hasBlue, "blue has pieces left");
   } else if (text == "Green has been captured!  YOU WIN!!!") {
-    Demand(phase == Phase::AllTaken && CountMarks(board, "gG") == 0, "green has pieces left");
+    Demand(phase == Phase::AllTaken && !HasGreen(board), "green has pieces left");
   } else if (text == "Blue cannot move!  YOU LOSE!!!") {
-    Demand(phase == Phase::BlueHasLost && hasBlue && HumanMoves(board).empty(), "blue can move");
+    Demand(phase == Phase::BlueHasLost && hasBlue && MovesOfHuman().empty(), "blue can move");
   } else if (text == "Green cannot move!  YOU WIN!!!") {
     Demand(phase == Phase::NoMove && GreenHops(board).empty(), "green can move");
   } else {

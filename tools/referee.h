@@ -43,7 +43,7 @@ class Referee {
   void AtBox(const MessageBox& box, const Drag& drag);
 
   /// Before the program sleeps.
-  void BeforeWait(bool isTimerDue) const;
+  void BeforeWait(bool isTimerDue);
 
   /// What the drag that comes next must lead to: this board, the human's move made.
   void ExpectMove(const Grid& board) { expected = board; }
@@ -52,6 +52,7 @@ class Referee {
   bool IsHumansTurn() const { return phase == Phase::Opening || phase == Phase::Human; }
   Phase CurrentPhase() const { return phase; }
   const Grid& Board() const { return board; }
+  const std::vector<GridMove>& MovesOfHuman();
   int HumanMoveCount() const { return humanMoves; }
 
  private:
@@ -65,14 +66,17 @@ class Referee {
   void CheckGreenHop(const Grid& now, Phase next);
   void CheckBoard(Phase next);
   void CheckGameOver(const std::string& text);
+  void SetBoard(const Grid& now);
   Phase FindPhase() const;
 
   const frmVelmoran& form;
   bool isOpen = false;  // the main window has been shown
   bool isMenuBox = false;
   Phase phase = Phase::Opening;
-  Position last;              // at the last event
-  Grid board;                 // of `last`
+  Position last;  // at the last event
+  std::array<int, 6> lastTimers{};
+  Grid board;                                         // of `last`
+  std::optional<std::vector<GridMove>> movesOfHuman;  // on `board`, once somebody has asked
   std::optional<Cell> chain;  // the green piece that has jumped in this turn
   std::optional<Grid> expected;
   bool isAnnounced = false;  // the end of this game

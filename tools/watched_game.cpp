@@ -65,10 +65,13 @@ void WatchedHost::Tell(const InputEvent* input) {
   for (const Square square : form.position.JumpPath) {
     if (square != 0) path += ' ' + std::to_string(square);
   }
-  std::fprintf(Log, "%6d %8lld ms %-20s %s%s%s path%s\n", EventCount,
-               static_cast<long long>(Now().count() / 1000), what.c_str(),
-               Draw(GridOf(form.position)).c_str(), form.position.BlueToMove ? " blue" : " green",
-               form.position.GameOver ? " over" : "", path.c_str());
+  const std::string board = Draw(GridOf(form.position)) +
+                            (form.position.BlueToMove ? " blue" : " green") +
+                            (form.position.GameOver ? " over" : "") + " path" + path;
+  if (!input && board == told) return;
+  told = board;
+  std::fprintf(Log, "%6d %8lld ms %-20s %s\n", EventCount,
+               static_cast<long long>(Now().count() / 1000), what.c_str(), board.c_str());
 }
 
 WatchedGame::WatchedGame(Hand& hand) : host(*this, hand) {

@@ -47,6 +47,7 @@ class WatchedHost : public VirtualHost {
   WatchedGame& game;
   Hand& hand;
   std::deque<InputEvent> sent;  // a copy of the queue, to find out what has left it
+  std::string told;             // the last line of the log: ticks that change nothing are left out
 };
 
 /// The whole program, from the splash on, under the eyes of a referee.
