@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "support/desk.h"
+#include "support/player.h"
 
 namespace {
 
@@ -10,55 +10,46 @@ TEST(GameEnd, IsAnnouncedAndLeftByNewGame) {
   const struct {
     const char* Picture;
     std::vector<int> Drag;
-    const char* Text;
     Instant At;  // after the drop
-    bool BlueToMove;
-  } cases[] = {
-      {".... .... .... .... .g.. .b.. .... ....",
-       {10, 19},
-       "Green has been captured!  YOU WIN!!!",
-       0ms,
-       false},
-      {".... .... .... bb.b g... bb.. .b.. ....",
-       {20, 24},
-       "Green cannot move!  YOU WIN!!!",
-       500ms,
-       false},
-      {".... .... .... .g.. .... .b.. .... ....",
-       {10, 14},
-       "Blue has been captured!  YOU LOSE!!!",
-       2500ms,
-       true},
-      {".... .... ..g. ...g .... g..b b... ....",
-       {12, 16},
-       "Blue cannot move!  YOU LOSE!!!",
-       2500ms,
-       true},
-  };
-  for (const auto& [picture, drag, text, at, blueToMove] : cases) {
+    const char* Text;
+  } cases[] = {{".... .... .... .... .g.. .b.. .... ....",
+                {10, 19},
+                0ms,
+                "Green has been captured!  YOU WIN!!!"},
+               {".... .... .... bb.b g... bb.. .b.. ....",
+                {20, 24},
+                500ms,
+                "Green cannot move!  YOU WIN!!!"},
+               {".... .... .... .g.. .... .b.. .... ....",
+                {10, 14},
+                2500ms,
+                "Blue has been captured!  YOU LOSE!!!"},
+               {".... .... ..g. ...g .... g..b b... ....",
+                {12, 16},
+                2500ms,
+                "Blue cannot move!  YOU LOSE!!!"}};
+  for (const auto& [picture, drag, at, text] : cases) {
     Desk desk(Board(picture));
+    const Position& position = desk.form.position;
     desk.host.BoxTime = 3s;
     desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << picture; };
     const Instant start = desk.host.Now();
-    desk.Drag(drag);
-    desk.RunUntilQuiet();
+    PlayTurn(desk, drag);
     ASSERT_EQ(desk.host.Boxes.size(), 1) << text;
     const VirtualHost::ShownBox& box = desk.host.Boxes[0];
     EXPECT_EQ(box.Text, text);
     EXPECT_EQ(box.Title, "Game Over");
     EXPECT_EQ(box.Icon, MessageIcon::Stop);
     EXPECT_EQ(box.At - start, at) << text;
-    EXPECT_EQ(desk.form.position.BlueToMove, blueToMove) << text;
-    EXPECT_TRUE(desk.form.position.GameOver);
-    const std::string board = Draw(desk.form.position);
-    for (int square = 1; square <= Squares; ++square) desk.Drag({square, 17, 18, 19, 20});
-    desk.RunUntilQuiet();
-    EXPECT_EQ(Draw(desk.form.position), board) << text << " nothing reacts any more";
+    EXPECT_EQ(position.BlueToMove, at == 2500ms) << text;
+    EXPECT_TRUE(position.GameOver);
+    const std::string board = Draw(position);
+    for (int square = 1; square <= Squares; ++square) PlayTurn(desk, {square, 17, 18, 19, 20});
+    EXPECT_EQ(Draw(position), board) << text << " nothing reacts any more";
     desk.Choose("mnuGame");
-    desk.Drag({9, 13});
-    desk.RunUntilQuiet();
-    EXPECT_EQ(desk.form.position.BlueSquare[9], 13) << text;
-    EXPECT_NE(desk.form.position.GreenSquare, StartPosition().GreenSquare) << text;
+    PlayTurn(desk, {9, 13});
+    EXPECT_EQ(position.BlueSquare[9], 13) << text;
+    EXPECT_NE(position.GreenSquare, StartPosition().GreenSquare) << text;
     EXPECT_EQ(desk.host.Boxes.size(), 1) << text;
   }
 }

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "support/desk.h"
+#include "support/player.h"
 
 namespace {
 
@@ -9,67 +9,52 @@ using namespace std::chrono_literals;
 // Green answers 20-24 by three jumps: five boards, each for a second.
 constexpr auto Chain = "g... .g.. .b.. ...b .b.. .... .bb. ....";
 
-void ExpectAnswer(const Desk& desk, Instant when) {
-  const Position& position = desk.form.position;
-  EXPECT_EQ(position.BlueSquare[9], 13) << when.count();
-  EXPECT_NE(position.GreenSquare, StartPosition().GreenSquare) << when.count();
-  EXPECT_TRUE(position.BlueToMove) << when.count();
-  EXPECT_EQ(desk.form.imgBlueChecker[1].DragMode, 1) << when.count();
-}
-
 TEST(NewGame, ComesAtAnyMomentOfATurn) {
-  for (Instant when = 0ms; when <= 5s; when += 50ms) {
-    Desk desk(Board(Chain));
-    desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << when.count(); };
-    desk.Drag({20, 24});
-    desk.In(when, [&] { desk.Choose("mnuGame"); });
-    desk.RunUntilQuiet();
-    EXPECT_TRUE(desk.form.position.NewGameRequested) << "until the next drag";
-    Position expected = StartPosition();
-    expected.NewGameRequested = true;
-    ASSERT_EQ(desk.form.position, expected) << when.count();
-    EXPECT_FALSE(desk.form.tmrPause.Enabled || desk.form.tmrBlink.Enabled);
-    desk.Drag({9, 13});
-    desk.RunUntilQuiet();
-    ExpectAnswer(desk, when);
+  for (const bool isDragQueuedToo : {false, true}) {
+    for (Instant when = 0ms; when <= 5s; when += 50ms) {
+      Desk desk(Board(Chain));
+      const Position& position = desk.form.position;
+      desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << when.count(); };
+      desk.In(when, [&] {
+        desk.Choose("mnuGame");
+        desk.Choose("mnuGame");
+        if (isDragQueuedToo) desk.Drag({9, 13});
+      });
+      PlayTurn(desk, {20, 24});
+      if (!isDragQueuedToo) {
+        Position expected = StartPosition();
+        expected.NewGameRequested = true;  // until the next drag
+        ASSERT_EQ(position, expected) << when.count();
+        EXPECT_FALSE(desk.form.tmrPause.Enabled || desk.form.tmrBlink.Enabled);
+        PlayTurn(desk, {9, 13});
+      }
+      EXPECT_EQ(position.BlueSquare[9], 13) << when.count();
+      EXPECT_NE(position.GreenSquare, StartPosition().GreenSquare) << when.count();
+      EXPECT_TRUE(position.BlueToMove) << when.count();
+      EXPECT_EQ(desk.form.imgBlueChecker[1].DragMode, 1) << when.count();
+    }
   }
 }
 
-TEST(NewGame, IsFollowedAtOnceByADrag) {
-  for (Instant when = 0ms; when <= 5s; when += 50ms) {
-    Desk desk(Board(Chain));
-    desk.Drag({20, 24});
-    desk.In(when, [&] {
-      desk.Choose("mnuGame");
-      desk.Choose("mnuGame");
-      desk.Drag({9, 13});
-    });
-    desk.RunUntilQuiet();
-    ExpectAnswer(desk, when);
-  }
-}
-
-TEST(NewGame, SeedsTheGameByTheTimeOfDay) {
-  const auto secondTurn = [](double midnight) {
+TEST(NewGame, IsSeededByTheTimeOfDay) {
+  const auto firstDraw = [](double midnight) {
     Desk desk;
     desk.host.Midnight = midnight;
     desk.OpenBoard();
     return desk.toolkit.random.Rnd();
   };
-  EXPECT_EQ(secondTurn(1), secondTurn(1));
-  EXPECT_NE(secondTurn(1), secondTurn(2));
+  EXPECT_EQ(firstDraw(1), firstDraw(1));
+  EXPECT_NE(firstDraw(1), firstDraw(2));
 }
 
-TEST(NewGame, ExitEndsTheProgramInTheMiddleOfABlink) {
-  for (const bool byMenu : {true, false}) {
+TEST(Exit, EndsTheProgramInTheMiddleOfABlink) {
+  for (const bool isMenu : {true, false}) {
     Desk desk(Board(Chain));
-    desk.Drag({20, 24});
     desk.In(800ms, [&] {
-      if (byMenu) return desk.Choose("mnuExit");
+      if (isMenu) return desk.Choose("mnuExit");
       desk.Pointer(InputEvent::Kind::Close, {});
     });
-    EXPECT_THROW(desk.RunUntilQuiet(), ProgramEnded);
-    EXPECT_TRUE(desk.host.Boxes.empty());
+    EXPECT_THROW(PlayTurn(desk, {20, 24}), ProgramEnded);
   }
 }
 

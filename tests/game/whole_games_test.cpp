@@ -10,22 +10,19 @@ namespace {
 
 TEST(WholeGames, StayConsistentToTheirEnd) {
   int ended = 0;
+  Random hand;
   for (int seed = 1; seed <= 200; ++seed) {
     Desk desk;
-    desk.host.Midnight = seed;
-    desk.OpenBoard();
-    desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << seed; };
-    Random hand;
-    hand.Randomize(seed);
     const Position& position = desk.form.position;
+    desk.host.Midnight = seed;
+    desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << seed; };
+    desk.OpenBoard();
     for (int turn = 0; turn < 300 && !position.GameOver; ++turn) {
       const std::vector<int> drag = RandomDrag(position, hand);
       ASSERT_FALSE(drag.empty()) << seed << testing::PrintToString(position);
-      desk.Drag(drag);
-      desk.RunUntilQuiet();
-      const bool isOver = position.GameOver;
-      ASSERT_EQ(desk.host.Boxes.size(), isOver ? 1 : 0) << seed << desk.host.Boxes[0].Text;
-      ASSERT_TRUE(isOver || (position.BlueToMove && desk.form.imgBlueChecker[1].DragMode == 1));
+      PlayTurn(desk, drag);
+      ASSERT_EQ(desk.host.Boxes.size(), position.GameOver ? 1 : 0) << seed;
+      ASSERT_TRUE(position.GameOver || desk.form.imgBlueChecker[1].DragMode == 1) << seed;
     }
     if (!position.GameOver) continue;
     ++ended;
@@ -35,53 +32,49 @@ TEST(WholeGames, StayConsistentToTheirEnd) {
 }
 
 /// Plays one turn and tells it: the drag, the board and the number of draws so far.
-std::string TellTurn(Desk& desk, const std::string& squares) {
-  std::istringstream words(squares);
-  std::vector<int> drag;
-  for (std::string word; std::getline(words, word, '-');) drag.push_back(std::stoi(word));
-  desk.Drag(drag);
-  desk.RunUntilQuiet();
-  return squares + " | " + Draw(desk.form.position) + " | " +
-         std::to_string(desk.toolkit.random.DrawCount);
+std::string TellTurn(Desk& desk, const std::vector<int>& drag) {
+  PlayTurn(desk, drag);
+  std::ostringstream told;
+  for (const int square : drag) told << square << ' ';
+  told << "| " << Draw(desk.form.position) << " | " << desk.toolkit.random.DrawCount;
+  return told.str();
 }
 
-/// A desk with a sequence of random values of its own.
-void Script(Desk& desk, unsigned seed) {
+void OpenScripted(Desk& desk, const std::string& seed) {
   desk.OpenBoard();
   desk.toolkit.random.DrawCount = 0;
-  desk.toolkit.random.Script = [engine = std::mt19937(seed)]() mutable {
+  const auto number = static_cast<std::uint32_t>(std::stoul(seed));
+  desk.toolkit.random.Script = [engine = std::mt19937(number)]() mutable {
     return static_cast<double>(engine()) * 0x1p-32;
   };
 }
 
-/// The games of this file were written by this program; VELMORAN_RECORD=1 writes them anew.
+/// VELMORAN_RECORD="1 2" writes the file anew, with games of these seeds.
 TEST(WholeGames, ArePlayedAsRecorded) {
-  if (std::getenv("VELMORAN_RECORD")) {
+  if (const char* seeds = std::getenv("VELMORAN_RECORD")) {
     std::ofstream file(VELMORAN_GAMES);
-    for (const unsigned seed : {1u, 2u}) {
+    std::istringstream words(seeds);
+    for (std::string seed; words >> seed;) {
       Desk desk;
-      Script(desk, seed);
       Random hand;
-      hand.Randomize(seed);
+      OpenScripted(desk, seed);
       file << "game " << seed << '\n';
       while (!desk.form.position.GameOver) {
-        std::string squares;
-        for (const int square : RandomDrag(desk.form.position, hand)) {
-          squares += (squares.empty() ? "" : "-") + std::to_string(square);
-        }
-        file << TellTurn(desk, squares) << '\n';
+        file << TellTurn(desk, RandomDrag(desk.form.position, hand)) << '\n';
       }
     }
   }
   std::ifstream file(VELMORAN_GAMES);
   std::optional<Desk> desk;
-  int turns = 0;
   for (std::string line; std::getline(file, line);) {
     if (line.starts_with("game ")) {
-      Script(desk.emplace(), static_cast<unsigned>(std::stoi(line.substr(5))));
-    } else {
-      ASSERT_EQ(TellTurn(*desk, line.substr(0, line.find(' '))), line) << "turn " << ++turns;
+      OpenScripted(desk.emplace(), line.substr(5));
+      continue;
     }
+    std::istringstream words(line);
+    std::vector<int> drag;
+    for (int square; words >> square;) drag.push_back(square);
+    ASSERT_EQ(TellTurn(*desk, drag), line);
   }
   EXPECT_TRUE(desk && desk->form.position.GameOver);
 }

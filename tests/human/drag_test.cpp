@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
 #include "support/desk.h"
 
@@ -16,99 +17,115 @@ std::vector<int> PathOf(const Desk& desk) {
   return path;
 }
 
-// Rows from the top:    29   25   21   17   13   9    5    1
-constexpr auto Man = "   ...g .... .... .... .... bb.. .... ....";
-constexpr auto Two = "   ...g .... ..g. .... .g.. .b.. .... ....";
-constexpr auto Circle = "...g .... gg.. .... gg.. .B.. .... ....";
+/// What is written as 10-19-28x14x23: the squares of a drag and those behind each x.
+struct Note {
+  std::vector<int> Drag, Marked;
+  char Last = ' ';  // of the note
+};
 
-TEST(JumpPath, KeepsTheLandingSquaresPassed) {
-  const struct {
-    const char* Picture;
-    std::vector<int> Squares, Path;
-  } cases[] = {
-      {Man, {10, 13, 14}, {}},
-      {Man, {10, 19, 19, 28, 19}, {19, 28}},
-      {Man, {10, 19, 20, 28}, {19, 28}},
-      {Man, {10, 17, 19, 28}, {17}},
-      {Circle, {10, 19, 26, 17, 10}, {19, 26, 17, 10}},
-      {Circle, {10, 19, 10}, {19}},
-      {"...g .... .... ..g. .g.. .b.. .... ....", {10, 19, 28}, {}},
-  };
-  for (const auto& [picture, squares, path] : cases) {
-    Desk desk(Board(picture));
-    desk.Press(squares[0]);
-    for (const int square : squares) desk.Move(square);
-    desk.DeliverInput();
-    EXPECT_EQ(PathOf(desk), path) << picture;
-    EXPECT_EQ(Draw(desk.form.position), Draw(Board(picture))) << "a drag moves nothing";
-  }
-}
-
-TEST(Drop, IsCarriedOutOrRefused) {
-  enum Outcome { Played, Refused, CaptureRequired };
-  const struct {
-    const char* Picture;
-    std::vector<int> Drag;
-    Outcome Result;
-    std::vector<Square> Taken{};
-  } cases[] = {
-      {"...g .... .... .... .g.. .b.. .... ..b.", {3, 7}, CaptureRequired},
-      {"...g .... .... .... .g.. .b.. .... ..b.", {10, 19}, Played, {14}},
-      {"...g .... .... ..b. .g.. .b.. .... ..b.", {3, 7}, Played},
-      {"...g .... .... .... .b.. .g.. .... ..b.", {3, 7}, Played},
-      {"...g .... .... .... .B.. .g.. .... ..b.", {3, 7}, CaptureRequired},
-      {"...g .... .... .... .B.. .g.. .... ..b.", {14, 5}, Played, {10}},
-      {"...g .g.. .... .g.. .b.. .... .... ....", {14, 21, 30}, Played, {18, 26}},
-      {"...g ..gg .b.. .... .... .... .... ....", {22, 31, 24}, Refused},
-      {"...g .... ..g. ..b. .g.. .b.. .... ....", {10, 19, 28}, Refused},
-      {Two, {10, 19, 28}, Played, {14, 23}},
-      {Two, {10, 19}, Played, {14}},
-      {Two, {10, 19, 10}, Refused},
-      {Two, {10, 14}, Refused},
-      {Circle, {10, 19, 26, 17, 10}, Played, {13, 14, 21, 22}},
-      {Circle, {10}, Refused},
-      {Man, {10, 9}, Refused},
-      {Man, {10, 5}, Refused},
-      {Man, {10, 11}, Refused},
-      {Man, {10, 19}, Refused},
-  };
-  for (const auto& [picture, drag, result, taken] : cases) {
-    Desk desk(Board(picture));
-    const Position& position = desk.form.position;
-    Position expected = position;
-    desk.Drag(drag);
-    desk.DeliverInput();
-    if (result == Played) {
-      std::ranges::replace(expected.BlueSquare, Square(drag.front()), Square(drag.back()));
-      for (const Square square : taken) std::ranges::replace(expected.GreenSquare, square, 0);
-      EXPECT_EQ(PathOf(desk), std::vector<int>{});
+std::vector<Note> Read(const std::string& text) {
+  std::vector<Note> notes;
+  std::istringstream words(text);
+  for (std::string word; words >> word;) {
+    Note& note = notes.emplace_back();
+    note.Last = word.back();
+    std::istringstream in(word);
+    char before = '-';
+    for (int square; in >> square; in >> before) {
+      (before == 'x' ? note.Marked : note.Drag).push_back(square);
     }
-    EXPECT_EQ(position.BlueSquare, expected.BlueSquare) << picture;
-    EXPECT_EQ(position.GreenSquare, expected.GreenSquare) << picture;
-    EXPECT_TRUE(position.BlueKing[1] || drag.back() != 30);
-    EXPECT_TRUE(IsConsistent(desk.form)) << picture;
-    EXPECT_NE(position.BlueToMove, result == Played) << picture;
-    EXPECT_EQ(desk.form.tmrPause.Enabled, result == Played) << picture;
-    EXPECT_EQ(desk.form.imgBlueChecker[12].DragMode, result == Played ? 0 : 1) << picture;
-    ASSERT_EQ(desk.host.Boxes.size(), result == CaptureRequired ? 1 : 0) << picture;
-    if (result != CaptureRequired) continue;
-    EXPECT_EQ(desk.host.Boxes[0].Title, "Capture Required");
-    EXPECT_EQ(desk.host.Boxes[0].Icon, MessageIcon::Warning);
-    EXPECT_EQ(desk.host.Boxes[0].Text,
-              "You must make the available jump.\r\n\r\nThe official rules of checkers state that "
-              "if a\r\njump is available, a capture MUST be made.");
+  }
+  return notes;
+}
+
+constexpr auto Man = "...g .... .... .... .... bb.. .... ....";
+constexpr auto Two = "...g .... ..g. .... .g.. .b.. .... ....";
+
+struct Case {
+  const char *Picture, *Notes;
+};
+
+TEST(Drag, KeepsTheLandingSquaresPassed) {
+  const Case cases[] = {
+      // Rows from the top:
+      // 29   25   21   17   13   9    5    1         x: the path
+      {"...g .... .... .... .... bb.. .... ....", "10-13-14 10-19-19-28-19x19x28"},
+      {"...g .... .... .... .... bb.. .... ....", "10-19-20-28x19x28 10-17-19-28x17"},
+      {"...g .... gg.. .... gg.. .B.. .... ....", "10-19-26-17-10x19x26x17x10 10-19-10x19"},
+      {"...g .... .... ..g. .g.. .b.. .... ....", "10-19-28"},
+  };
+  for (const auto& [picture, notes] : cases) {
+    for (const auto& [drag, path, last] : Read(notes)) {
+      Desk desk(Board(picture));
+      desk.Press(drag[0]);
+      for (const int square : drag) desk.Move(square);
+      desk.DeliverInput();
+      EXPECT_EQ(PathOf(desk), path) << picture;
+    }
   }
 }
 
-TEST(Drop, IsTheSameHoweverFastTheHand) {
+TEST(Drag, IsCarriedOutOrRefused) {
+  const Case cases[] = {
+      // x: taken, ?: refused, !: refused because a capture is required
+      {"...g .... .... .... .... bb.. .... ....", "10-14 10-9? 10-5? 10-11? 10-19? 10-17-14"},
+      {"...g .... ..g. .... .g.. .b.. .... ....", "10-19x14 10-19-28x14x23 10-19-28-19x14"},
+      {"...g .... ..g. .... .g.. .b.. .... ....", "10-14? 10-19-10? 10-12-28? 10-17-19x14"},
+      {"...g .... ..g. .... .g.. .B.. .... ....", "10-19-28-19x14 10-5! 10-3?"},
+      {"...g .... .g.. .... .g.. .... .g.. .b..", "2-11-18-27x6x14x22 2-11-18-27-18?"},
+      {"...g ..gg .b.. .... .... .... .... ....", "22-31x27 22-31-24?"},
+      {"...g ..gg .B.. .... .... .... .... ....", "22-31-24x27x28"},
+      {"...g .g.. .... .g.. .b.. .... .... ....", "14-21-30x18x26"},
+      {"...g .... gg.. .... gg.. .B.. .... ....", "10-19-26-17-10x14x22x21x13 10?"},
+      {"...g .... ..g. ..b. .g.. .b.. .... ....", "10-19-28?"},
+      {"...g .... .... .... .g.. .b.. .... ..b.", "3-7! 10-19x14"},
+      {"...g .... .... ..b. .g.. .b.. .... ..b.", "3-7"},
+      {"...g .... .... .... .b.. .g.. .... ..b.", "3-7 14-5?"},
+      {"...g .... .... .... .B.. .g.. .... ..b.", "3-7! 14-5x10"},
+  };
+  for (const auto& [picture, notes] : cases) {
+    for (const auto& [drag, taken, last] : Read(notes)) {
+      Desk desk(Board(picture));
+      const Position& position = desk.form.position;
+      Position expected = position;
+      desk.Drag(drag);
+      desk.DeliverInput();
+      const bool isPlayed = last != '?' && last != '!';
+      if (isPlayed) {
+        std::ranges::replace(expected.BlueSquare, Square(drag.front()), Square(drag.back()));
+        for (const int square : taken) {
+          std::ranges::replace(expected.GreenSquare, Square(square), Square{0});
+        }
+        EXPECT_EQ(PathOf(desk), std::vector<int>{});
+      }
+      const auto show = testing::PrintToString(position) + " from " + picture;
+      EXPECT_EQ(position.BlueSquare, expected.BlueSquare) << show;
+      EXPECT_EQ(position.GreenSquare, expected.GreenSquare) << show;
+      EXPECT_TRUE(position.BlueKing[1] || drag.back() != 30) << show;
+      EXPECT_TRUE(IsConsistent(desk.form)) << show;
+      EXPECT_NE(position.BlueToMove, isPlayed) << show;
+      EXPECT_EQ(desk.form.tmrPause.Enabled, isPlayed) << show;
+      EXPECT_EQ(desk.form.imgBlueChecker[12].DragMode, isPlayed ? 0 : 1) << show;
+      ASSERT_EQ(desk.host.Boxes.size(), last == '!' ? 1 : 0) << show;
+      if (last != '!') continue;
+      const MessageBox& box = desk.host.Boxes[0];
+      EXPECT_EQ(box.Title, "Capture Required");
+      EXPECT_EQ(box.Icon, MessageIcon::Warning);
+      EXPECT_EQ(box.Text,
+                "You must make the available jump.\r\n\r\nThe official rules of checkers state "
+                "that if a\r\njump is available, a capture MUST be made.");
+    }
+  }
+}
+
+TEST(Drag, IsTheSameHoweverFastTheHand) {
   for (const int movements : {0, 1, 2, 3, 7, 260}) {
     Desk desk(Board(Two));
     const Point from = desk.Middle(10);
-    const Point to = desk.Middle(28);
     desk.Press(10);
     for (int k = 1; k <= movements; ++k) {
-      desk.Pointer(Kind::Move, {from.X + (to.X - from.X) * k / movements,
-                                from.Y + (to.Y - from.Y) * k / movements});
+      const int way = 4 * 975 * k / movements;
+      desk.Pointer(Kind::Move, {from.X + way, from.Y - way});
     }
     desk.Release(28);
     desk.DeliverInput();
@@ -116,7 +133,7 @@ TEST(Drop, IsTheSameHoweverFastTheHand) {
   }
 }
 
-TEST(Drop, RefusedLeavesNoPathToALeapOntoAPiece) {
+TEST(Drag, RefusedLeavesNoPathToALeapOntoAPiece) {
   Desk desk(Board(Man));
   desk.Drag({10, 19});
   desk.DeliverInput();
@@ -127,7 +144,7 @@ TEST(Drop, RefusedLeavesNoPathToALeapOntoAPiece) {
   EXPECT_EQ(desk.host.ShownDrag.Source, &desk.form.imgBlueChecker[1]);
 }
 
-TEST(Drop, NeverComesAfterACancelledDrag) {
+TEST(Drag, CancelledLeavesNothingBehind) {
   constexpr Point Outside{-300, 5300};  // from here the first control is the piece on 9
   const std::function<void(Desk&)> ways[] = {
       [&](Desk& desk) { desk.Pointer(Kind::Release, Outside); },
@@ -135,15 +152,15 @@ TEST(Drop, NeverComesAfterACancelledDrag) {
       [](Desk& desk) { desk.Choose("mnuAbout"); },
       [](Desk& desk) { desk.Choose("mnuGame"); },
       [](Desk& desk) { desk.Press(20); },
-  };
+      [](Desk& desk) { desk.form.toolkit.MsgBox("", MessageIcon::Stop, ""); }};
   for (const auto& cancel : ways) {
     Desk desk(Board(Man));
     desk.Press(10);
     desk.Move(19);
+    desk.DeliverInput();
     cancel(desk);
     desk.DeliverInput();
     EXPECT_EQ(desk.host.ShownDrag.Source, nullptr);
-    EXPECT_EQ(PathOf(desk), std::vector<int>{});
     const std::string before = Draw(desk.form.position);
     desk.Release(14);
     desk.Pointer(Kind::Move, Outside);
