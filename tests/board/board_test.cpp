@@ -32,16 +32,6 @@ TEST(Geometry, AgreesWithRowsAndColumns) {
   EXPECT_EQ(Neighbour(0, UpRight), 0);
 }
 
-TEST(Tables, HoldSquareZeroForCapturedPieces) {
-  Position position = StartPosition();
-  EXPECT_EQ(SquareOwner(position, 0), Nobody);
-  position.GreenSquare[1] = 0;
-  EXPECT_EQ(SquareOwner(position, 0), Green);
-  position.BlueSquare[1] = 0;
-  EXPECT_EQ(SquareOwner(position, 0), Blue) << "blue is looked at first";
-  EXPECT_EQ(VacantOrZero(position, 0), 0);
-}
-
 TEST(Tables, AreFoundOutWhenBroken) {
   void (*const spoilers[])(Position&) = {
       [](Position& p) { p.BlueSquare[2] = p.BlueSquare[1]; },
@@ -59,13 +49,9 @@ TEST(Tables, AreFoundOutWhenBroken) {
 
 TEST(Pictures, AreReadAndOthersRefused) {
   const char* const picture = "...G .... g... .... .b.. .... .... B...";
-  EXPECT_EQ(Board(picture).BlueSquare[2], 14);
   EXPECT_EQ(Draw(Board(picture)), picture);
-  for (const char* refused :
-       {"gggg", ".... .... .... .... .... .... .... .... .",
-        ".... .... .... .... .... .... .... ...x", "bbbb bbbb bbbb b... .... .... .... ...."}) {
-    EXPECT_THROW(Board(refused), std::invalid_argument) << refused;
-  }
+  EXPECT_THROW(Board(".... .... .... .... .... .... .... .... ."), std::invalid_argument);
+  EXPECT_THROW(Board(".... .... .... .... .... .... .... ...x"), std::invalid_argument);
 }
 
 }  // namespace

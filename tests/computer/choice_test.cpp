@@ -1,13 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "computer/random_direction.h"
 #include "computer/ranking.h"
 #include "human/classification.h"
 #include "support/board.h"
-#include "support/legal_drags.h"
 
 namespace {
 
@@ -37,29 +35,6 @@ std::string Names(const MoveList& list) {
   return names;
 }
 
-/// The number of ways in which the next moves can go: blue moves, and the board is turned.
-int CountWays(const Position& position, int depth) {
-  if (depth == 0) return 1;
-  int count = 0;
-  for (const DragPath& drag : LegalDrags(position)) {
-    Position next = position;
-    for (std::size_t k = 1; k < drag.size(); ++k) {
-      const Square over = Neighbour(drag[k - 1], JumpDirection(drag[k - 1], drag[k]));
-      if (over != 0) std::ranges::replace(next.GreenSquare, over, Square{0});
-    }
-    std::ranges::replace(next.BlueSquare, drag.front(), drag.back());
-    count += CountWays(Turned(next), depth - 1);
-  }
-  return count;
-}
-
-TEST(Moves, AreAsManyAsTheOpeningHas) {
-  const int counts[] = {1, 7, 49, 302, 1469, 7361};
-  for (int depth = 1; depth <= 5; ++depth) {
-    EXPECT_EQ(CountWays(StartPosition(), depth), counts[depth]) << depth;
-  }
-}
-
 TEST(Moves, AreTheSameForGreenOnTheTurnedBoard) {
   Random random;
   for (int round = 0; round < 300; ++round) {
@@ -87,22 +62,6 @@ TEST(Moves, AreTheSameForGreenOnTheTurnedBoard) {
     }
     EXPECT_EQ(green.Count, count) << testing::PrintToString(position);
   }
-}
-
-TEST(Moves, AreShuffledByOneDrawForEach) {
-  const auto listOf = [](int count) {
-    MoveList list;
-    for (Square k = 1; k <= count; ++k) MoveListAdd(list, MakeMoveRecord(1, k, UpLeft, {}, k));
-    return list;
-  };
-  MoveList three = listOf(3);
-  Random random = Draws({0.9, 0.1, 0.5});
-  EXPECT_EQ(Names(ShuffleMoveList(random, three)), "3-3 1-1 2-2 ");
-  EXPECT_EQ(ShuffleMoveList(random, three).Count, 0) << "and no draw";
-  EXPECT_EQ(random.DrawCount, 3);
-  MoveList most = listOf(48);
-  random = Draws(std::vector<double>(48, std::nextafter(1.0, 0.0)));
-  EXPECT_EQ(ShuffleMoveList(random, most).Items.front().ToSquare, 48);
 }
 
 TEST(Moves, AtRandomTakeTheirDraws) {
@@ -146,52 +105,45 @@ TEST(Ranking, KeepsTheShuffledOrderOfEqualMoves) {
   ASSERT_EQ(Names(listed), "25-21 7-11 7-3 15-11 ");
   const int scores[] = {-1, 2, 2, 1};
   for (std::size_t k = 0; k < 4; ++k) {
-    EXPECT_EQ(JudgeMove(position, listed.Items[k], ReportError).Score, scores[k]) << k;
+    const MoveMerits merits = JudgeMove(position, listed.Items[k], ReportError);
+    EXPECT_EQ(merits.Score, scores[k]) << k;
+    EXPECT_FALSE(merits.IsSafeCrowning) << "on 3 it is a king already";
   }
-  EXPECT_FALSE(JudgeMove(position, listed.Items[2], ReportError).IsSafeCrowning) << "a king";
-  const struct {
-    std::vector<double> Values;
-    const char *Shuffled, *Sorted;
-  } cases[] = {
-      {{0.3, 0.9, 0.1, 0.6}, "7-11 15-11 25-21 7-3 ", "7-11 7-3 15-11 25-21 "},
-      {{0.6, 0.2, 0.7, 0.4}, "7-3 25-21 15-11 7-11 ", "7-3 7-11 15-11 25-21 "},
-  };
-  for (const auto& [values, shuffled, sorted] : cases) {
+  const auto sort = [&](std::vector<double> values, const char* shuffled, const char* sorted) {
     MoveList again = listed;
     Random random = Draws(values);
     MoveList moves = ShuffleMoveList(random, again);
     EXPECT_EQ(Names(moves), shuffled);
     SortMoveList(position, moves, ReportError);
     EXPECT_EQ(Names(moves), sorted);
-    random = Draws(values);
-    EXPECT_EQ(ChooseMove(random, position, ReportError), moves.Items[0]);
-  }
+    EXPECT_EQ(random.DrawCount, 4);
+  };
+  sort({0.3, 0.9, 0.1, 0.6}, "7-11 15-11 25-21 7-3 ", "7-11 7-3 15-11 25-21 ");
+  sort({0.6, 0.2, 0.7, 0.4}, "7-3 25-21 15-11 7-11 ", "7-3 7-11 15-11 25-21 ");
 }
 
 TEST(Ranking, ComparesEachPairOnceWhereBothAreBetter) {
   const Position position = Board("G... .... b... .... .... .... ...g ....");
   MoveList moves = ListGreenMoves(position);
-  ASSERT_EQ(Names(moves), "8-4 29-25 29-26 ");
-  SortMoveList(position, moves, ReportError);
-  EXPECT_EQ(Names(moves), "29-25 8-4 29-26 ");
-  SortMoveList(position, moves, ReportError);
-  EXPECT_EQ(Names(moves), "8-4 29-25 29-26 ");
+  for (const char* sorted : {"29-25 8-4 29-26 ", "8-4 29-25 29-26 "}) {
+    SortMoveList(position, moves, ReportError);
+    EXPECT_EQ(Names(moves), sorted);
+  }
 }
 
 TEST(Ranking, SetsTrapsForKingsAndKeepsThem) {
-  const auto isBetter = [](const char* picture, const MoveRecord& first, const MoveRecord& second) {
+  const auto expectBetter = [](const char* picture, Square from1, Square to1, Square from2,
+                               Square to2) {
     const Position position = Board(picture);
-    return IsBetterMove(JudgeMove(position, first, ReportError),
-                        JudgeMove(position, second, ReportError));
+    const auto judge = [&](Square from, Square to) {
+      const int piece = GreenOn(position, from);
+      return JudgeMove(position, MakeMoveRecord(piece, from, {}, MoveKindStep, to), ReportError);
+    };
+    EXPECT_TRUE(IsBetterMove(judge(from1, to1), judge(from2, to2))) << picture;
+    EXPECT_FALSE(IsBetterMove(judge(from2, to2), judge(from1, to1))) << picture;
   };
-  constexpr auto Set = ".... .... ...G .... .g.. .... .... B.B.";
-  constexpr auto Kept = ".... ...B g... .... .... .... .... BG..";
-  const MoveRecord moves[] = {MakeMoveRecord(1, 14, DownLeft, MoveKindStep, 10),
-                              MakeMoveRecord(1, 14, DownRight, MoveKindStep, 11),
-                              MakeMoveRecord(1, 2, UpRight, MoveKindStep, 6),
-                              MakeMoveRecord(2, 21, DownLeft, MoveKindStep, 17)};
-  EXPECT_TRUE(isBetter(Set, moves[0], moves[1]) && !isBetter(Set, moves[1], moves[0]));
-  EXPECT_TRUE(isBetter(Kept, moves[2], moves[3]) && !isBetter(Kept, moves[3], moves[2]));
+  expectBetter(".... .... ...G .... .g.. .... .... B.B.", 14, 10, 14, 11);
+  expectBetter(".... ...B g... .... .... .... .... BG..", 2, 6, 21, 17);
 }
 
 TEST(Ranking, DecidesAtTheFirstReason) {

@@ -35,16 +35,15 @@ void Desk::OpenBoard() {
 
 void Desk::SetPosition(const Position& position) {
   form.position = position;
+  const auto show = [this](Control& image, Square square, const Picture* picture) {
+    image.Visible = square != 0;
+    if (square != 0) PlaceImage(form, image, square);
+    image.Picture = picture;
+  };
   for (int piece = 1; piece <= Pieces; ++piece) {
-    const Square blue = position.BlueSquare[piece];
-    const Square green = position.GreenSquare[piece];
-    form.imgBlueChecker[piece].Visible = blue != 0;
-    form.imgGreenChecker[piece].Visible = green != 0;
-    if (blue != 0) PlaceImage(form, form.imgBlueChecker[piece], blue);
-    if (green != 0) PlaceImage(form, form.imgGreenChecker[piece], green);
-    form.imgBlueChecker[piece].Picture =
-        position.BlueKing[piece] ? form.picBlueKingREF.Picture : form.picBlueCheckerREF.Picture;
-    form.imgGreenChecker[piece].Picture = PlainGreenPicture(form, piece);
+    const Control& blue = position.BlueKing[piece] ? form.picBlueKingREF : form.picBlueCheckerREF;
+    show(form.imgBlueChecker[piece], position.BlueSquare[piece], blue.Picture);
+    show(form.imgGreenChecker[piece], position.GreenSquare[piece], PlainGreenPicture(form, piece));
   }
 }
 
@@ -85,19 +84,6 @@ void Desk::RunUntilQuiet() {
     if (form.tmrPause.InHandler || form.tmrBlink.InHandler) {
       throw std::logic_error("a handler sleeps with nothing to wake it");
     }
-  }
-}
-
-void Desk::RunUntil(Instant when) {
-  bool isReached = false;
-  At(when, [&] {
-    isReached = true;
-    // Nobody but the loop below waits here, so the wait may be left.
-    if (!form.tmrPause.InHandler && !host.IsBoxOpen) throw Quiet{};
-  });
-  try {
-    while (!isReached) toolkit.DoEvents();
-  } catch (const Quiet&) {
   }
 }
 

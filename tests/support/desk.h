@@ -51,9 +51,6 @@ class Desk {
   /// Delivers events and ticks until nothing is left to come.
   void RunUntilQuiet();
 
-  /// Delivers all that comes up to this instant; a turn of the computer is not left in the middle.
-  void RunUntil(Instant when);
-
   /// The middle of a square.
   Point Middle(int square) const;
 
@@ -61,6 +58,5 @@ class Desk {
   Toolkit toolkit{host};
   frmVelmoran form{toolkit};
   frmSplash splash{toolkit, form};
-  std::function<void()>
-      AfterEvent;  // called after each event, nested ones included, and before each wait
+  std::function<void()> AfterEvent;  // nested events included; also comes before each wait
 };

@@ -35,8 +35,6 @@ class VirtualHost : public Host {
   /// Queues input. While a message box is open the windows take none.
   void Put(const InputEvent& event);
 
-  bool HasWork() const { return !booked.empty() || !Queue.empty(); }
-
   std::vector<ShownBox> Boxes;
   Instant BoxTime{0};   // how long a message box stays open
   double Midnight = 0;  // the time of day at instant 0, in seconds: it seeds the games
