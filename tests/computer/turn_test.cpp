@@ -44,11 +44,11 @@ TEST(ComputerTurn, ShowsEachStageWithABlink) {
     std::string board = Draw(desk.form.position);
     char letter = 'a';
     for (std::size_t k = 0; k < course.size(); ++k) {
-      desk.In(100ms * k + 50ms, [&, k] {
+      desk.In(100ms * k + 50ms, [&, dragMode = k + 2 < course.size() ? 0 : 1] {
         if (board != Draw(desk.form.position)) ++letter;
         board = Draw(desk.form.position);
         seen += static_cast<char>(IsLit(desk.form) ? letter - 'a' + 'A' : letter);
-        EXPECT_EQ(desk.form.imgBlueChecker[1].DragMode, k + 2 < course.size() ? 0 : 1) << k;
+        EXPECT_EQ(desk.form.imgBlueChecker[1].DragMode, dragMode);
       });
     }
     desk.RunUntilQuiet();

@@ -62,7 +62,7 @@ TEST(GameEnd, IsAnnouncedAndLeftByNewGame) {
     Desk desk(Board(picture));
     const Position& position = desk.form.position;
     desk.host.BoxTime = 3s;
-    desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << picture; };
+    desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)); };
     const Instant start = desk.host.Now();
     PlayTurn(desk, drag);
     ASSERT_EQ(desk.host.Boxes.size(), 1) << text;
