@@ -1,0 +1,143 @@
+"""Plays one case in a real window: real_window_test.py PROGRAM CASE. Bare, it lists the cases."""
+import glob, os, pathlib, subprocess, sys, time
+from real_window import DOWN, START, UP, Game, until
+
+RECORDED = {  # the game begun at noon
+    "LD_PRELOAD": "/usr/$LIB/faketime/libfaketime.so.1", "FAKETIME": "2024-01-01 12:00:00",
+    "FAKETIME_DONT_FAKE_MONOTONIC": "1", "ASAN_OPTIONS": "verify_asan_link_order=0"}
+
+
+def whole(game):
+    """A turn of each side, New Game at two stages of the computer's, and Exit at a third."""
+    left, top, _, height = game.splash
+    black, red, lines = (0, 0, 0), (255, 0, 0), {(255, 255, 255), (0, 255, 0), (255, 255, 0)}
+    until("the whole splash", lambda: game.colours(*game.splash) > lines)
+    border = [game.colours(left + x, top + 100).pop() for x in (1, 2, 6, 7)]
+    assert (height, border) == (181, [black, red, red, black])
+    game.play_to("last_blink")
+    for move in (11, 15), (9, 13):
+        new_game(game)
+        game.move(*move)
+        until("a blink", lambda: "*" in game.board())
+    exited(game)
+
+
+def new_game(game):
+    game.do("key ctrl+n")
+    until("the new game", lambda: game.picture() == game.at_rest)
+
+
+def rest(game):
+    """A game at rest, here after a computer's turn that was broken off, costs nothing at all."""
+    def cost():
+        process = f"/proc/{game.process.pid}/"
+        lines = [line for task in glob.glob(process + "task/*/status") for line in open(task)]
+        switches = [line for line in lines if "ctxt_switches" in line]
+        return switches, open(process + "stat").read().split()[13:15]
+
+    def is_unchanged(seconds):
+        before = cost()
+        time.sleep(seconds)
+        return cost() == before
+    new_game(game)
+    until("rest", lambda: is_unchanged(0.3))
+    assert is_unchanged(2), "something woke the game"
+
+
+def help_holds_the_turn(game):
+    game.do("key ctrl+c")
+    box = until("the help", lambda: game.window("Velmoran Game Controls"))
+    game.do(f"windowmove {box[0]} 0 0")
+    until("the board beside it", lambda: "?" not in game.board())
+    shown, stop = game.board(), time.monotonic() + 0.7
+    while time.monotonic() < stop:
+        assert game.board() == shown
+    game.do("key Return")
+    until("the answer", lambda: game.piece(game.blinking) == ".")
+
+
+def drags(game):
+    """Each way in which a drag ends without a drop: nothing is left, and the next one works."""
+    game.start("xev", "-geometry", "200x200+0+0")
+    other = until("another window", lambda: game.window("Event Tester"))[0]
+    menu_bar, outside = (game.left + 30, game.top - 10), (100, 400)
+    for way in ([menu_bar, UP], [outside, UP], ["key Escape"], ["key ctrl+n"],
+                ["mousedown 3 mouseup 3"], ["key alt key Down key Escape key Escape"],
+                [f"windowactivate {other}"], [f"windowfocus {other}"]):
+        game.do(10, DOWN, 14)
+        until("the outline", lambda: game.picture() != game.at_rest)
+        game.do(*way)
+        until(f"no trace after {way}", lambda: game.picture() == game.at_rest)
+        game.do(14, UP)
+        game.move(9, 13)
+        until(f"one move after {way}", lambda: game.board() == START[:8] + ".bbbb" + START[13:])
+        new_game(game)
+
+
+def double_jump(game, *path):
+    for move in (12, 15), (7, 12), (10, 13), path:
+        game.move(*move)
+    until("both pieces gone", lambda: game.board().count("g") == 10)
+
+
+def closed(game):
+    end(game, "wmctrl", "-ic", game.name)
+
+
+def exited(game):
+    end(game, "xdotool", "key", "ctrl+x")
+
+
+def exited_by_menu(game):
+    game.do((game.left + 20, game.top - 8), "click 1")
+    end(game, "xdotool", "key", "x")
+
+
+def end(game, *command):
+    """Closed or exited at any stage, the program is gone at once and without a word."""
+    game.run(*command)
+    code, seconds, said = game.ended()
+    assert code == 0 and seconds < 0.2 and not said, (code, seconds, said)
+
+
+def display_lost(game):
+    game.server.kill()
+    code, _, said = game.ended()
+    assert code > 0 and len(said) == 1, (code, said)
+
+
+def no_display(game):
+    for display in {}, {"DISPLAY": ":987654"}:
+        done = subprocess.run(sys.argv[1:2], env=display, capture_output=True, text=True, timeout=8)
+        assert done.returncode == 1 and done.stderr.count("\n") == 1 and not done.stdout, done
+
+
+CASES = {  # the stage to play to, and what happens then
+    "no_display": ("splash", no_display), "whole": ("splash", whole), "rest": ("blink", rest),
+    "drags": ("turn", drags), "help_holds_the_turn": ("blink", help_holds_the_turn),
+    "double_jump": ("turn", double_jump, 5, 14, 23),
+    "double_jump_in_a_leap": ("turn", double_jump, 5, 23)}
+for stage, act in (("splash", closed), ("turn", exited_by_menu), ("drag", exited), ("drag", closed),
+                   ("pause", exited), ("blink", closed), ("last_blink", exited),
+                   ("help", display_lost), ("blink", display_lost)):
+    CASES[f"{act.__name__}_at_{stage}"] = stage, act
+
+
+def play(program, name):
+    stage, act, *more = CASES[name]
+    game = Game(program, **(RECORDED if act == double_jump else {}))
+    try:
+        game.play_to(stage)
+        act(game, *more)
+        if game.process.poll() is None:
+            closed(game)
+    except BaseException:
+        print(f"The screen is kept in {os.getcwd()}/{name}.xwd, a picture for convert")
+        pathlib.Path(f"{name}.xwd").write_bytes(game.memory)
+        raise
+    finally:
+        game.server.terminate()
+        game.server.wait()
+
+
+play(*sys.argv[1:]) if sys.argv[1:] else print(*CASES, sep=";", end="")
