@@ -4,6 +4,7 @@ build=${BUILD:-build}
 
 # The fonts are those of the splash window. The xcb plugin comes with Qt itself.
 play_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation fonts-comic-neue fonts-dejavu-core)
+demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev libbenchmark-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
 
