@@ -1,0 +1,95 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+
+#include "desktop/accessibility.h"
+#include "desktop/form_view.h"
+#include "desktop/painting.h"
+#include "support/desk.h"
+#include "ui/pictures.h"
+
+namespace {
+
+constexpr QRgb Black = qRgb(0, 0, 0), Red = qRgb(255, 0, 0), Cyan = qRgb(1, 255, 255);
+constexpr QRgb Blue = qRgb(36, 1, 254), Green = qRgb(36, 255, 2), DarkGreen = qRgb(1, 127, 1);
+
+/// How many pixels of a row have exactly this colour.
+int Count(const QImage& image, int y, QRgb colour) {
+  int count = 0;
+  for (int x = 0; x < image.width(); ++x) count += (image.pixel(x, y) | 0xff000000) == colour;
+  return count;
+}
+
+TEST(View, ShowsEachPictureToThePixel) {
+  Desk desk(Board("g... .... .... .... .... .... .... bB.."));
+  const struct {
+    const Control& Box;
+    QRgb Ground, Disc, Middle;
+  } cases[] = {{desk.form.picBlueCheckerREF, Black, Blue, Blue},
+               {desk.form.picGreenCheckerREF, Black, Green, Green},
+               {desk.form.picBlueKingREF, Black, Blue, Cyan},
+               {desk.form.picGreenKingREF, Black, Green, DarkGreen},
+               {desk.form.picGreenCheckerHighlightREF, Green, Black, Black},
+               {desk.form.picGreenKingHighlightREF, Green, Black, DarkGreen}};
+  FormView view(desk.form.window);
+  for (const auto& [box, ground, disc, middle] : cases) {
+    desk.form.imgBlueChecker[1].Picture = box.Picture;  // on 1, the bottom left corner
+    view.Refresh({});
+    const QImage board = view.grab().toImage();
+    ASSERT_EQ(board.size(), QSize(520, 520));
+    const QImage cell = board.copy(0, 455, 65, 65);
+    for (const int rim : {2, 62}) EXPECT_EQ(cell.pixel(rim, 32), ground) << box.Name;
+    for (const int rim : {3, 61}) EXPECT_EQ(cell.pixel(rim, 32), disc) << box.Name;
+    for (const int rim : {3, 61}) EXPECT_EQ(cell.pixel(32, rim), disc) << box.Name;
+    EXPECT_EQ(cell.pixel(32, 32), middle) << box.Name;
+    EXPECT_EQ(cell.pixel(0, 0), ground) << box.Name;
+    // A star's arms are widest a little above the middle; a man's disc is whole there.
+    EXPECT_EQ(Count(cell, 26, disc) > 50, disc == middle) << box.Name;
+    EXPECT_EQ(board.pixel(65, 455), Red) << "the neighbour is left alone";
+  }
+}
+
+TEST(View, IsSharpAtAnyRatio) {
+  for (const double ratio : {1.25, 1.5, 2.0}) {
+    const int size = static_cast<int>(65 * ratio);
+    QImage image(size, size, QImage::Format_RGB32);
+    image.setDevicePixelRatio(ratio);
+    QPainter painter(&image);
+    PaintPicture(painter, BlueCheckerPicture, QRectF(0, 0, 65, 65));
+    const int blurred = size - Count(image, size / 2, Black) - Count(image, size / 2, Blue);
+    EXPECT_LE(blurred, 2) << ratio;
+    EXPECT_NEAR(Count(image, size / 2, Blue), 59 * ratio, 2) << ratio;
+  }
+}
+
+TEST(View, TellsWhatStandsOnEachSquare) {
+  Desk desk(Board("g... .... .... .... .... .... ...G bB.."));
+  FormView view(desk.form.window);
+  const QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&view);
+  const auto nameOf = [&](int square) {
+    return board->child(square - 1)->text(QAccessible::Name).toStdString();
+  };
+  ASSERT_EQ(board->childCount(), 32);
+  EXPECT_EQ(nameOf(1), "blue man on square 1");
+  EXPECT_EQ(nameOf(2), "blue king on square 2");
+  EXPECT_EQ(nameOf(8), "green king on square 8");
+  EXPECT_EQ(nameOf(29), "green man on square 29");
+  EXPECT_EQ(nameOf(6), "free square 6");
+  desk.Drag({2, 6});
+  desk.DeliverInput();
+  EXPECT_EQ(nameOf(2), "free square 2");
+  EXPECT_EQ(nameOf(6), "blue king on square 6");
+  const QPoint middle = board->child(5)->rect().center();
+  EXPECT_EQ(board->childAt(middle.x(), middle.y()), board->child(5));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  InstallAccessibility();
+  testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
