@@ -7,6 +7,7 @@ play_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation fonts-comic-n
 demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev libbenchmark-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
+check_packages=("${test_packages[@]}" clang clang-format clang-tidy libclang-rt-14-dev gcovr valgrind)
 
 # Installs those of the given packages that are not there yet.
 install_missing() {
