@@ -8,6 +8,8 @@ demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev libbenchmark-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
 check_packages=("${test_packages[@]}" clang clang-format clang-tidy libclang-rt-14-dev gcovr valgrind)
+package_packages=("${play_packages[@]}" git dpkg-dev devscripts lintian desktop-file-utils appstream
+  mandoc xvfb x11-utils)
 
 # Installs those of the given packages that are not there yet.
 install_missing() {
