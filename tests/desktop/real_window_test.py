@@ -11,8 +11,8 @@ def whole(game):
     left, top, _, height = game.splash
     black, red, lines = (0, 0, 0), (255, 0, 0), {(255, 255, 255), (0, 255, 0), (255, 255, 0)}
     until("the whole splash", lambda: game.colours(*game.splash) > lines)
-    border = [game.colours(left + x, top + 100).pop() for x in (1, 2, 6, 7)]
-    assert (height, border) == (181, [black, red, red, black])
+    border = [game.colours(left + x, top + 100) for x in (1, 2, 6, 7)]
+    assert (height, border) == (181, [{black}, {red}, {red}, {black}])
     game.play_to("last_blink")
     for move in (11, 15), (9, 13):
         new_game(game)
@@ -93,16 +93,16 @@ def exited_by_menu(game):
 
 
 def end(game, *command):
-    """Closed or exited at any stage, the program is gone at once and without a word."""
+    """The program goes without a word. It takes 10 ms; the limit is for a busy machine."""
     game.run(*command)
     code, seconds, said = game.ended()
-    assert code == 0 and seconds < 0.2 and not said, (code, seconds, said)
+    assert code == 0 and seconds < 0.6 and not said, (code, seconds, said)
 
 
 def display_lost(game):
     game.server.kill()
-    code, _, said = game.ended()
-    assert code > 0 and len(said) == 1, (code, said)
+    code, seconds, said = game.ended()
+    assert code > 0 and len(said) == 1, (code, seconds, said)
 
 
 def no_display(game):
