@@ -1,0 +1,141 @@
+"""The built program on an X server of its own, with a window manager. What the player sees is read
+from the memory of the screen, what he does is done by xdotool, and nothing sleeps for a state."""
+import mmap, os, re, struct, subprocess, tempfile, time
+
+BOARD, CELL = 520, 65
+BLACK, BLUE, GREEN = (0, 0, 0), (36, 1, 254), (36, 255, 2)
+PIECES = {(BLACK, BLACK): ".", (BLACK, BLUE): "b", (BLACK, GREEN): "g", (GREEN, BLACK): "*"}
+START = "b" * 12 + "." * 8 + "g" * 12
+DOWN, UP = "mousedown 1", "mouseup 1"
+
+
+def until(what, probe, seconds=8):
+    """Waits for `probe` to find something, and gives it."""
+    end = time.monotonic() + seconds
+    while not (found := probe()):
+        assert time.monotonic() < end, f"not within {seconds} s: {what}"
+        time.sleep(0.005)
+    return found
+
+
+class Screen:
+    def __init__(self):
+        self.folder = tempfile.TemporaryDirectory()
+        # Nothing of the desktop that the tests run on may shine through. Leaks are Qt's, not ours.
+        self.env = {"PATH": os.environ["PATH"], "HOME": self.folder.name, "TZ": "UTC",
+                    "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
+        number, told = os.pipe()
+        self.server = self.start(
+            "Xvfb", "-displayfd", str(told), "-fbdir", self.folder.name, "-screen", "0",
+            "1600x800x24", "-nocursor", "-noreset", pass_fds=[told])
+        os.close(told)
+        with open(number) as line:
+            self.env["DISPLAY"] = ":" + line.readline().strip()
+        until("the X server", lambda: self.run("xdotool", "getdisplaygeometry"))
+        # Any sooner the manager may lose a window: it says that it manages before it does.
+        self.start("openbox", "--startup", f"touch {self.folder.name}/managed")
+        until("the window manager", lambda: os.path.exists(self.folder.name + "/managed"))
+        with open(self.folder.name + "/Xvfb_screen0", "rb") as file:  # in the format of xwd
+            self.memory = mmap.mmap(file.fileno(), 0, prot=mmap.PROT_READ)
+        header = struct.unpack(">20I", self.memory[:80])
+        self.width, self.pixels = header[4], header[0] + 12 * header[19]
+
+    def start(self, *command, stderr=subprocess.DEVNULL, **more):
+        """Starts a program that ends with this one, in whatever way this one ends."""
+        return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.env,
+                                stdout=subprocess.DEVNULL, stderr=stderr, **more)
+
+    def run(self, *command):
+        return subprocess.run(command, env=self.env, capture_output=True, text=True).stdout
+
+    def window(self, title, width=None):
+        """A visible window of this title: its name, left, top, width and height."""
+        for name in self.run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split():
+            told = self.run("xwininfo", "-id", name)
+            place = re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", told)
+            if place and width in (None, int(place[2])):
+                return name, *map(int, place)
+
+    def rows(self, left, top, width, height):
+        for y in range(top, top + height):
+            start = self.pixels + 4 * (y * self.width + left)
+            yield self.memory[start:start + 4 * width]
+
+    def colours(self, left, top, width=1, height=1):
+        pixels = b"".join(self.rows(left, top, width, height))
+        return set(zip(pixels[2::4], pixels[1::4], pixels[0::4]))
+
+
+class Game(Screen):
+    def __init__(self, program, **env):
+        super().__init__()
+        self.env.update(env)
+        self.errors = tempfile.TemporaryFile("w+")
+        self.process = self.start(program, stderr=self.errors)
+        self.script = self.stages()
+
+    def stages(self):
+        """Plays from the start to the end of the computer's first turn, and tells each stage."""
+        self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran", 516))
+        yield "splash"
+        main = until("the main window", lambda: self.window(" Velmoran", BOARD))
+        self.name, self.left, self.top = *main[:2], main[2] + main[4] - BOARD  # below the menu bar
+        self.client_area = self.left, self.top, BOARD, BOARD
+        until("the help", lambda: self.window("Velmoran Game Controls"))
+        yield "help"
+        self.do("key Return")
+        until("the start position, with no grey left of the help", lambda:
+              self.board() == START and max(map(min, self.colours(*self.client_area))) < 3)
+        self.at_rest = self.picture()
+        yield "turn"
+        self.do(10, DOWN, 14)
+        until("the outline", lambda: self.picture() != self.at_rest)
+        yield "drag"
+        self.do(UP)
+        moved = START[:9] + "." + START[10:13] + "b" + START[14:]
+        until("the move", lambda: self.board() == moved)
+        yield "pause"
+        self.blinking = until("a blink", lambda: self.board().find("*") + 1)
+        yield "blink"
+        until("the answer", lambda: self.piece(self.blinking) == ".")
+        board = until("the last blink", lambda: "*" in (seen := self.board()) and seen)
+        changed = [a + b for a, b in zip(board, moved) if a != b]  # now and before
+        assert changed == ["*.", ".g"], (moved, board)
+        yield "last_blink"
+
+    def play_to(self, wanted):
+        while next(self.script) != wanted:
+            pass
+
+    def middle(self, square):
+        row, place = divmod(square - 1, 4)
+        return self.left + CELL * (2 * place + row % 2) + 32, self.top + CELL * (7 - row) + 32
+
+    def piece(self, square):
+        x, y = self.middle(square)
+        ground, disc = self.colours(x - 30, y - 30).pop(), self.colours(x, y - 26).pop()
+        return PIECES.get((ground, disc), "?")
+
+    def board(self):
+        return "".join(map(self.piece, range(1, 33)))
+
+    def picture(self):
+        return list(self.rows(*self.client_area))
+
+    def do(self, *steps):
+        """Moves to squares and points of the screen; all else are words of xdotool's."""
+        points = (self.middle(step) if isinstance(step, int) else step for step in steps)
+        words = (at if isinstance(at, str) else "mousemove {} {}".format(*at) for at in points)
+        return self.run("xdotool", *" ".join(words).split())
+
+    def move(self, *squares):
+        """Tries until the piece follows, which it does from the end of the computer's turn on."""
+        until(f"the move {squares}", lambda: self.piece(squares[-1]) in "bB" or
+              self.do(squares[0], DOWN, *squares[1:], UP, "sleep 0.1"))
+
+    def ended(self):
+        """Waits for the process to end: its exit code, the seconds it took and what it said."""
+        start = time.monotonic()
+        until("the end", lambda: self.process.poll() is not None)
+        self.errors.seek(0)
+        return self.process.returncode, time.monotonic() - start, self.errors.readlines()
