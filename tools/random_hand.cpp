@@ -27,12 +27,12 @@ void RandomHand::Act(WatchedGame& game, std::optional<Instant> until) {
   const bool isSplash = !game.form.window.Visible;
   if (!isSplash && referee.CurrentPhase() == Phase::Over) return AfterTheEnd(game);
   if (until) {
-    // Most ticks come undisturbed.
+    // Most ticks come undisturbed. Sometimes the hand and the tick come at the same instant.
     const bool isOpening = !isSplash && referee.IsHumansTurn();
-    if (!dice.Chance(isOpening ? 30 : 1)) return;
+    if (!dice.Chance(isSplash || isOpening ? 30 : 1)) return;
     const Instant now = game.host.Now();
     const auto rest = static_cast<int>((*until - now).count());
-    if (rest > 0) game.host.Pass(now + Instant(dice.Roll(rest)));
+    game.host.Pass(now + Instant(dice.Chance(20) ? rest : dice.Roll(rest)));
     return isOpening ? PlayTurn(game) : Disturb(game);
   }
   PlayTurn(game);

@@ -14,6 +14,13 @@ std::string Draw(const Grid& board) {
   return rows;
 }
 
+/// Whether the point lies on one of the cells that are no squares.
+bool IsRed(Point point) {
+  constexpr int Side = 65 * TwipsPerPixel;
+  if (!Contains({0, 0, 8 * Side, 8 * Side}, point)) return false;
+  return (point.X / Side + point.Y / Side) % 2 == 0;
+}
+
 }  // namespace
 
 void WatchedHost::WaitForInput(std::optional<Instant> until) {
@@ -38,7 +45,21 @@ void WatchedHost::ShowForms(std::span<Form* const> forms, const Drag& drag) {
   const InputEvent* input = delivered ? &*delivered : nullptr;
   if (++EventCount > MostEvents) throw Fault("the game has no end");
   if (Log) Tell(input);
+  if (input) CheckClick(*input);
   game.referee.AfterEvent(input, drag);
+}
+
+/// A click is a press and the release after it, both on the background.
+void WatchedHost::CheckClick(const InputEvent& input) {
+  const bool isClick = game.ClickCount() != clickCount;
+  clickCount = game.ClickCount();
+  bool isDue = false;
+  if (input.What == InputEvent::Kind::Press || input.What == InputEvent::Kind::Release) {
+    const bool isRed = input.Window == &game.form.window && IsRed(input.At);
+    isDue = input.What == InputEvent::Kind::Release && isPressedOnRed && isRed;
+    isPressedOnRed = input.What == InputEvent::Kind::Press && isRed;
+  }
+  if (isClick != isDue) throw Fault("a click that was none, or none that was one");
 }
 
 void WatchedHost::Send(const InputEvent& event) {
@@ -78,6 +99,10 @@ WatchedGame::WatchedGame(Hand& hand) : host(*this, hand) {
   BuildMainWindow(form);
   BuildSplashWindow(splash);
   Collect(form.window.Menu);
+  form.lblBackroundEvents.Click = [this, click = form.lblBackroundEvents.Click](int index) {
+    ++clickCount;
+    click(index);
+  };
 }
 
 void WatchedGame::Run() {

@@ -42,12 +42,15 @@ class WatchedHost : public VirtualHost {
 
  private:
   std::optional<InputEvent> TakeDelivered();
+  void CheckClick(const InputEvent& input);
   void Tell(const InputEvent* input);
 
   WatchedGame& game;
   Hand& hand;
   std::deque<InputEvent> sent;  // a copy of the queue, to find out what has left it
-  std::string told;             // the last line of the log: ticks that change nothing are left out
+  bool isPressedOnRed = false;
+  int clickCount = 0;  // up to the last event
+  std::string told;    // the last line of the log: ticks that change nothing are left out
 };
 
 /// The whole program, from the splash on, under the eyes of a referee.
@@ -62,6 +65,9 @@ class WatchedGame {
   void Move(Point at) { Send(InputEvent::Kind::Move, at); }
   void Release(Point at) { Send(InputEvent::Kind::Release, at); }
   void Send(InputEvent::Kind what, Point at = {});
+
+  /// The clicks that the red background has heard of.
+  int ClickCount() const { return clickCount; }
 
   /// Chooses a menu command by its number: New Game, Exit, then those that open a box.
   void Choose(std::size_t command);
@@ -78,5 +84,6 @@ class WatchedGame {
  private:
   void Collect(const std::vector<MenuItem>& items);
 
+  int clickCount = 0;
   std::vector<const MenuItem*> commands;  // in the order of the menus
 };
