@@ -16,6 +16,7 @@
 namespace {
 
 using Count = std::uint64_t;
+constexpr Count Disagreement = Count{1} << 50;  // above every count
 
 Count CountBlue(const Position& position, int depth);
 Count CountGreen(const Position& position, int depth);
@@ -50,6 +51,9 @@ Count CountJumps(const Position& dragged, const Position& taken, int piece, Squa
     longer.JumpPath[entries + 1] = next;
     Position judged = longer;
     const BlueMove move = ClassifyBlueMove(judged, from, next, true, piece);
+    // The verdict is the same for a drop whose square the pointer has not been seen to pass.
+    Position unpassed = dragged;
+    if (ClassifyBlueMove(unpassed, from, next, true, piece) != move) return Disagreement;
     if (move != (entries == 0 ? BlueMoveJump : BlueMoveChain)) continue;
     Position after = taken;
     Take(after, Neighbour(last, direction));
