@@ -101,7 +101,7 @@ def end(game, *command):
 
 
 def display_lost(game):
-    game.server.kill()
+    game.server.terminate()
     code, seconds, said = game.ended()
     assert code > 0 and len(said) == 1, (code, seconds, said)
 
