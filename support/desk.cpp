@@ -78,13 +78,18 @@ void Desk::DeliverInput() {
 
 void Desk::RunUntilQuiet() {
   try {
-    for (;;) toolkit.DoEvents();
+    while (host.HasWork() || IsTimerOn()) toolkit.DoEvents();
   } catch (const Quiet&) {
     // A turn that sleeps with nothing to wake it would have kept its timer in the handler.
     if (form.tmrPause.InHandler || form.tmrBlink.InHandler) {
       throw std::logic_error("a handler sleeps with nothing to wake it");
     }
   }
+}
+
+bool Desk::IsTimerOn() const {
+  return form.tmrPause.Enabled || form.tmrBlink.Enabled ||
+         (splash.window.Visible && splash.tmrTimer.Enabled);
 }
 
 Point Desk::Middle(int square) const {

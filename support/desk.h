@@ -59,4 +59,7 @@ class Desk {
   frmVelmoran form{toolkit};
   frmSplash splash{toolkit, form};
   std::function<void()> AfterEvent;  // nested events included; also comes before each wait
+
+ private:
+  bool IsTimerOn() const;
 };

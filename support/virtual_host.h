@@ -35,6 +35,9 @@ class VirtualHost : public Host {
   /// Queues input. While a message box is open the windows take none.
   void Put(const InputEvent& event);
 
+  /// Whether input waits or an action is booked.
+  bool HasWork() const { return !Queue.empty() || !booked.empty(); }
+
   std::vector<ShownBox> Boxes;
   Instant BoxTime{0};   // how long a message box stays open
   double Midnight = 0;  // the time of day at instant 0, in seconds: it seeds the games

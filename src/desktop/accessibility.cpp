@@ -50,8 +50,9 @@ class FormAccessible : public QAccessibleWidget {
     if (!formView.ShownForm().Describe) return;
     for (const Control* control : formView.ShownForm().Controls) {
       if (formView.ShownForm().Describe(*control).empty()) continue;
-      children.push_back(
-          QAccessible::registerAccessibleInterface(new ControlAccessible(formView, *control)));
+      // From here on it belongs to the registry.
+      auto* child = new ControlAccessible(formView, *control);
+      children.push_back(QAccessible::registerAccessibleInterface(child));  // NOLINT: no leak
     }
   }
   ~FormAccessible() override {

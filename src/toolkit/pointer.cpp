@@ -37,10 +37,43 @@ const Control* Frontmost(const std::vector<const Control*>& controls, Point poin
   return hit == controls.end() ? nullptr : *hit;
 }
 
-/// The place after so many of the steps that lead from one place to another. A pointer far off the
-/// screen would overflow an int.
-int Between(int from, int to, int step, int steps) {
-  return from + static_cast<int>(std::int64_t{to - from} * step / steps);
+/// A straight way, pixel by pixel.
+struct Line {
+  Point From;
+  Point To;
+  int Steps = 0;  // At(Steps) is its end
+
+  Point At(int step) const { return {Between(From.X, To.X, step), Between(From.Y, To.Y, step)}; }
+
+ private:
+  /// A pointer far off the screen would overflow an int on the way.
+  int Between(int from, int to, int step) const {
+    return Steps == 0 ? from : from + static_cast<int>(std::int64_t{to - from} * step / Steps);
+  }
+};
+
+Line MakeLine(Point from, Point to) {
+  const int way = std::max(std::abs(to.X - from.X), std::abs(to.Y - from.Y));
+  return {from, to, (way + TwipsPerPixel - 1) / TwipsPerPixel};
+}
+
+/// Whether no control in front of this one reaches into it. False for the bare form.
+bool IsUncovered(const std::vector<const Control*>& controls, const Control* control) {
+  for (const Control* front : controls) {
+    if (front == control) return true;
+    if (control && Overlap(RectOf(*front), RectOf(*control))) return false;
+  }
+  return false;
+}
+
+/// The first step behind this one, which lies on the control, that has left it.
+int FirstStepOff(const Control& control, const Line& line, int step) {
+  int outside = line.Steps + 1;
+  while (outside - step > 1) {
+    const int middle = (step + outside) / 2;
+    (Contains(RectOf(control), line.At(middle)) ? step : outside) = middle;
+  }
+  return outside;
 }
 
 }  // namespace
@@ -51,14 +84,16 @@ const Control* ControlAt(const Form& form, Point point) {
 
 std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to) {
   const std::vector<const Control*> near = ControlsNear(form, from, to);
-  const int way = std::max(std::abs(to.X - from.X), std::abs(to.Y - from.Y));
-  const int steps = std::max((way + TwipsPerPixel - 1) / TwipsPerPixel, 1);
+  const Line line = MakeLine(from, to);
   std::vector<const Control*> crossed;
-  for (int step = 0; step <= steps; ++step) {
-    const Point point{Between(from.X, to.X, step, steps), Between(from.Y, to.Y, step, steps)};
-    if (!IsInside(form, point)) continue;
-    const Control* control = Frontmost(near, point);
-    if (std::ranges::find(crossed, control) == crossed.end()) crossed.push_back(control);
+  for (int step = 0; step <= line.Steps;) {
+    const Point point = line.At(step);
+    const bool isInside = IsInside(form, point);
+    const Control* control = isInside ? Frontmost(near, point) : nullptr;
+    if (isInside && std::ranges::find(crossed, control) == crossed.end()) {
+      crossed.push_back(control);
+    }
+    step = IsUncovered(near, control) ? FirstStepOff(*control, line, step) : step + 1;
   }
   return crossed;
 }
