@@ -44,6 +44,9 @@ Instant RandomHand::BoxTime() {
 }
 
 void RandomHand::PlayTurn(WatchedGame& game) {
+  const bool isFirst =
+      game.referee.CurrentPhase() == Phase::Human && game.referee.HumanMoveCount() == 0;
+  if (isFirst && dice.Chance(40)) Deal(game);
   const int chance = dice.Roll(1000);
   if (chance < 3) {
     game.Choose(NewGame);
@@ -58,6 +61,25 @@ void RandomHand::PlayTurn(WatchedGame& game) {
   } else {
     DragByTheRules(game);
   }
+}
+
+/// Most games end before there are many kings, so some begin with them.
+void RandomHand::Deal(WatchedGame& game) {
+  Position position = game.form.position;
+  position.BlueSquare = position.GreenSquare = {};
+  const int crowded = 20 + dice.Roll(60);
+  for (int square = 1, blue = 0, green = 0; square <= Squares; ++square) {
+    if (!dice.Chance(crowded)) continue;
+    const bool isBlue = dice.Chance(50);
+    int& piece = isBlue ? blue : green;
+    if (piece == Pieces) continue;
+    ++piece;
+    const bool isKing = dice.Chance(40) || square <= 4 || square >= 29;
+    (isBlue ? position.BlueSquare : position.GreenSquare)[piece] = static_cast<Square>(square);
+    (isBlue ? position.BlueKing : position.GreenKing)[piece] = isKing;
+  }
+  const Grid board = GridOf(position);
+  if (HasGreen(board) && !HumanMoves(board).empty()) game.Deal(position);
 }
 
 /// While the computer moves, or over the splash.
@@ -124,11 +146,27 @@ void RandomHand::DragCutOff(WatchedGame& game) {
   if (dice.Chance(50)) game.Release(PointIn(move.To()));
 }
 
+/// From one piece by hops to another, or from anywhere to anywhere.
 void RandomHand::DragSilly(WatchedGame& game) {
+  if (dice.Chance(50)) return DragAmongPieces(game);
   const int points = dice.Roll(5);
   if (dice.Chance(90)) game.Press(PointAnywhere());
   for (int k = 0; k < points; ++k) game.Move(dice.Chance(85) ? PointAnywhere() : PointOutside());
   if (dice.Chance(90)) game.Release(PointAnywhere());
+}
+
+void RandomHand::DragAmongPieces(WatchedGame& game) {
+  const auto near = [&](Cell cell, int away) {
+    const auto move = [&](int place) { return place + (dice.Chance(50) ? away : -away); };
+    return Cell{move(cell.Row), move(cell.Column)};
+  };
+  const Cell from = CellOfPiece(game);
+  Cell cell = from;
+  game.Press(PointIn(cell));
+  for (int hops = dice.Roll(3); hops > 0; --hops) game.Move(PointIn(cell = near(cell, 2)));
+  // Back beside the start there is often a friend.
+  const Cell ends[] = {cell, CellOfPiece(game), near(from, 1)};
+  game.Release(PointIn(ends[dice.Roll(3)]));
 }
 
 void RandomHand::OpenHelp(WatchedGame& game) {
@@ -149,6 +187,12 @@ void RandomHand::MoveAlong(WatchedGame& game, const GridMove& move) {
 GridMove RandomHand::ChooseMove(Referee& referee) {
   const std::vector<GridMove>& moves = referee.MovesOfHuman();
   return moves[static_cast<std::size_t>(dice.Roll(static_cast<int>(moves.size())))];
+}
+
+/// Where a blue piece stands, or a corner for one that has been captured.
+Cell RandomHand::CellOfPiece(const WatchedGame& game) {
+  const Square square = game.form.position.BlueSquare[1 + dice.Roll(Pieces)];
+  return square == 0 ? Cell{} : CellOf(square);
 }
 
 Point RandomHand::PointIn(Cell cell) {

@@ -29,15 +29,18 @@ class RandomHand : public Hand {
 
  private:
   void PlayTurn(WatchedGame& game);
+  void Deal(WatchedGame& game);
   void Disturb(WatchedGame& game);
   void AfterTheEnd(WatchedGame& game);
   void DragByTheRules(WatchedGame& game);
   void DragCutOff(WatchedGame& game);
   void DragSilly(WatchedGame& game);
+  void DragAmongPieces(WatchedGame& game);
   void OpenHelp(WatchedGame& game);
   void MoveAlong(WatchedGame& game, const GridMove& move);
 
   GridMove ChooseMove(Referee& referee);
+  Cell CellOfPiece(const WatchedGame& game);
   Point PointIn(Cell cell);
   Point PointAnywhere();
   Point PointOutside();

@@ -132,6 +132,11 @@ void Referee::BeforeWait(bool isTimerDue) {
   }
 }
 
+void Referee::AcceptBoard() {
+  last = form.position;
+  SetBoard(GridOf(last));
+}
+
 Phase Referee::FindPhase() const {
   const Position& position = form.position;
   const int dragMode = form.imgBlueChecker[1].DragMode;

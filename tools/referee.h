@@ -48,6 +48,9 @@ class Referee {
   /// What the drag that comes next must lead to: this board, the human's move made.
   void ExpectMove(const Grid& board) { expected = board; }
 
+  /// Other pieces have been put on the board.
+  void AcceptBoard();
+
   /// Whether the human could play now.
   bool IsHumansTurn() const { return phase == Phase::Opening || phase == Phase::Human; }
   Phase CurrentPhase() const { return phase; }

@@ -124,6 +124,22 @@ void WatchedGame::Choose(std::size_t command) {
              .Command = commands[command]});
 }
 
+void WatchedGame::Deal(const Position& position) {
+  form.position = position;
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    const auto show = [&](Control& image, Square square, const Control& picture) {
+      image.Visible = square != 0;
+      image.Picture = picture.Picture;
+      if (square != 0) PlaceImage(form, image, square);
+    };
+    show(form.imgBlueChecker[piece], position.BlueSquare[piece],
+         position.BlueKing[piece] ? form.picBlueKingREF : form.picBlueCheckerREF);
+    show(form.imgGreenChecker[piece], position.GreenSquare[piece],
+         position.GreenKing[piece] ? form.picGreenKingREF : form.picGreenCheckerREF);
+  }
+  referee.AcceptBoard();
+}
+
 const char* WatchedGame::NameOf(InputEvent::Kind what) {
   constexpr const char* Names[] = {"press", "move", "release", "cancel", "menu", "close"};
   return Names[static_cast<std::size_t>(what)];

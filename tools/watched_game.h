@@ -66,6 +66,9 @@ class WatchedGame {
   void Release(Point at) { Send(InputEvent::Kind::Release, at); }
   void Send(InputEvent::Kind what, Point at = {});
 
+  /// Puts other pieces on the board, between two events of the human's turn.
+  void Deal(const Position& position);
+
   /// The clicks that the red background has heard of.
   int ClickCount() const { return clickCount; }
 
