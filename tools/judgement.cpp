@@ -12,7 +12,7 @@ struct Way {
   bool operator==(const Way&) const = default;
 };
 
-constexpr Way Ways[] = {{1, -1}, {1, 1}, {-1, -1}, {-1, 1}};
+constexpr std::array<Way, 4> Ways{{{1, -1}, {1, 1}, {-1, -1}, {-1, 1}}};
 
 Way Back(Way way) { return {-way.Rows, -way.Columns}; }
 

@@ -1,5 +1,7 @@
 #include "random_hand.h"
 
+#include <array>
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -39,8 +41,9 @@ void RandomHand::Act(WatchedGame& game, std::optional<Instant> until) {
 }
 
 Instant RandomHand::BoxTime() {
-  constexpr Instant Times[] = {0ms, 0ms, 1ms, 150ms, 200ms, 499ms, 500ms, 3s, 1h};
-  return Times[dice.Roll(std::size(Times))];
+  constexpr auto Times =
+      std::to_array<Instant>({0ms, 0ms, 1ms, 150ms, 200ms, 499ms, 500ms, 3s, 1h});
+  return Times[static_cast<std::size_t>(dice.Roll(static_cast<int>(Times.size())))];
 }
 
 void RandomHand::PlayTurn(WatchedGame& game) {
@@ -165,8 +168,8 @@ void RandomHand::DragAmongPieces(WatchedGame& game) {
   game.Press(PointIn(cell));
   for (int hops = dice.Roll(3); hops > 0; --hops) game.Move(PointIn(cell = near(cell, 2)));
   // Back beside the start there is often a friend.
-  const Cell ends[] = {cell, CellOfPiece(game), near(from, 1)};
-  game.Release(PointIn(ends[dice.Roll(3)]));
+  const std::array<Cell, 3> ends{cell, CellOfPiece(game), near(from, 1)};
+  game.Release(PointIn(ends[static_cast<std::size_t>(dice.Roll(3))]));
 }
 
 void RandomHand::OpenHelp(WatchedGame& game) {

@@ -17,7 +17,7 @@ struct PhaseRow {
   int BlueToMove, DragMode, Pause, Blink, GameOver, BlinkStarted, InPause, InBlink;
 };
 
-constexpr PhaseRow PhaseTable[] = {
+constexpr auto PhaseTable = std::to_array<PhaseRow>({
     {Phase::Opening, 1, 1, 1, 0, 0, 0, 0, 0},
     {Phase::Human, 1, 1, 0, 0, 0, 0, Either, 0},
     {Phase::AllTaken, 0, 1, 0, 0, 0, 0, 0, 0},
@@ -28,21 +28,27 @@ constexpr PhaseRow PhaseTable[] = {
     {Phase::BlueHasLost, 1, 1, 0, 0, 0, 0, 0, 1},
     {Phase::Over, Either, 0, 0, 0, 1, 0, 0, 0},
     {Phase::Over, 1, 1, 0, 0, 1, 0, 0, 0},  // where no blue piece is left to drag
-};
+});
 
 /// What may follow a phase, apart from itself and from the start of a new game.
 struct Succession {
   Phase From, To;
 };
 
-constexpr Succession Successions[] = {
-    {Phase::Opening, Phase::Human},         {Phase::Opening, Phase::Pause},
-    {Phase::Human, Phase::Pause},           {Phase::Human, Phase::AllTaken},
-    {Phase::AllTaken, Phase::Over},         {Phase::Pause, Phase::Stage},
-    {Phase::Pause, Phase::NoMove},          {Phase::NoMove, Phase::Over},
-    {Phase::Stage, Phase::LastBlink},       {Phase::LastBlink, Phase::Human},
-    {Phase::LastBlink, Phase::BlueHasLost}, {Phase::BlueHasLost, Phase::Over},
-};
+constexpr auto Successions = std::to_array<Succession>({
+    {Phase::Opening, Phase::Human},
+    {Phase::Opening, Phase::Pause},
+    {Phase::Human, Phase::Pause},
+    {Phase::Human, Phase::AllTaken},
+    {Phase::AllTaken, Phase::Over},
+    {Phase::Pause, Phase::Stage},
+    {Phase::Pause, Phase::NoMove},
+    {Phase::NoMove, Phase::Over},
+    {Phase::Stage, Phase::LastBlink},
+    {Phase::LastBlink, Phase::Human},
+    {Phase::LastBlink, Phase::BlueHasLost},
+    {Phase::BlueHasLost, Phase::Over},
+});
 
 bool Fits(int wanted, bool is) { return wanted == Either || wanted == int(is); }
 
@@ -72,8 +78,9 @@ bool HasGreenJump(const Grid& board) {
 }  // namespace
 
 const char* NameOf(Phase phase) {
-  constexpr const char* Names[] = {"opening", "human",      "all taken",     "pause", "no move",
-                                   "stage",   "last blink", "blue has lost", "over"};
+  constexpr auto Names =
+      std::to_array<const char*>({"opening", "human", "all taken", "pause", "no move", "stage",
+                                  "last blink", "blue has lost", "over"});
   return Names[static_cast<std::size_t>(phase)];
 }
 

@@ -141,7 +141,8 @@ void WatchedGame::Deal(const Position& position) {
 }
 
 const char* WatchedGame::NameOf(InputEvent::Kind what) {
-  constexpr const char* Names[] = {"press", "move", "release", "cancel", "menu", "close"};
+  constexpr auto Names =
+      std::to_array<const char*>({"press", "move", "release", "cancel", "menu", "close"});
   return Names[static_cast<std::size_t>(what)];
 }
 
