@@ -25,7 +25,7 @@ Desk::Desk() {
 
 Desk::Desk(const Position& position) : Desk() {
   OpenBoard();
-  SetPosition(position);
+  PlacePosition(form, position);
 }
 
 void Desk::OpenBoard() {
@@ -33,9 +33,9 @@ void Desk::OpenBoard() {
   RunUntilQuiet();
 }
 
-void Desk::SetPosition(const Position& position) {
+void PlacePosition(frmVelmoran& form, const Position& position) {
   form.position = position;
-  const auto show = [this](Control& image, Square square, const Picture* picture) {
+  const auto show = [&form](Control& image, Square square, const Picture* picture) {
     image.Visible = square != 0;
     if (square != 0) PlaceImage(form, image, square);
     image.Picture = picture;

@@ -8,6 +8,9 @@
 #include "ui/main_window.h"
 #include "ui/splash_window.h"
 
+/// Plays on from this position: places the pieces and shows them.
+void PlacePosition(frmVelmoran& form, const Position& position);
+
 /// The whole program on a virtual host, and a hand that plays on it.
 class Desk {
  public:
@@ -18,9 +21,6 @@ class Desk {
 
   /// Opens the main window without a splash. The board is ready, and `tmrPause` has had its tick.
   void OpenBoard();
-
-  /// Plays on from this position: places the pieces and shows them.
-  void SetPosition(const Position& position);
 
   /// Hands out these random values in turn, then values from all over the range.
   void Draws(std::vector<double> values);

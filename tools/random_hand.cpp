@@ -70,6 +70,7 @@ void RandomHand::PlayTurn(WatchedGame& game) {
 void RandomHand::Deal(WatchedGame& game) {
   Position position = game.form.position;
   position.BlueSquare = position.GreenSquare = {};
+  position.JumpPath = {};  // what a refused drop has left is about other pieces
   const int crowded = 20 + dice.Roll(60);
   for (int square = 1, blue = 0, green = 0; square <= Squares; ++square) {
     if (!dice.Chance(crowded)) continue;

@@ -1,5 +1,7 @@
 #include "watched_game.h"
 
+#include "support/desk.h"
+
 namespace {
 
 constexpr int MostEvents = 1'000'000;  // far above any game: who gets there turns in a circle
@@ -125,18 +127,7 @@ void WatchedGame::Choose(std::size_t command) {
 }
 
 void WatchedGame::Deal(const Position& position) {
-  form.position = position;
-  for (int piece = 1; piece <= Pieces; ++piece) {
-    const auto show = [&](Control& image, Square square, const Control& picture) {
-      image.Visible = square != 0;
-      image.Picture = picture.Picture;
-      if (square != 0) PlaceImage(form, image, square);
-    };
-    show(form.imgBlueChecker[piece], position.BlueSquare[piece],
-         position.BlueKing[piece] ? form.picBlueKingREF : form.picBlueCheckerREF);
-    show(form.imgGreenChecker[piece], position.GreenSquare[piece],
-         position.GreenKing[piece] ? form.picGreenKingREF : form.picGreenCheckerREF);
-  }
+  PlacePosition(form, position);
   referee.AcceptBoard();
 }
 
