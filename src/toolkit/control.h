@@ -56,3 +56,15 @@ struct Control {
 constexpr Rect RectOf(const Control& control) {
   return {control.Left, control.Top, control.Width, control.Height};
 }
+
+/// A visible control of this kind at this place, and nothing else set.
+inline Control MakeControl(ControlKind kind, const char* name, const Rect& place) {
+  Control control;
+  control.Kind = kind;
+  control.Name = name;
+  control.Left = place.Left;
+  control.Top = place.Top;
+  control.Width = place.Width;
+  control.Height = place.Height;
+  return control;
+}

@@ -20,38 +20,22 @@ constexpr Color Black{0, 0, 0};
 constexpr Color Red{255, 0, 0};
 
 Control MakeLabel(const char* name, int index, const Rect& place, Color backColor) {
-  Control label;
-  label.Kind = ControlKind::Label;
-  label.Name = name;
+  Control label = MakeControl(ControlKind::Label, name, place);
   label.Index = index;
-  label.Left = place.Left;
-  label.Top = place.Top;
-  label.Width = place.Width;
-  label.Height = place.Height;
   label.BackColor = backColor;
   return label;
 }
 
 Control MakePictureBox(const char* name, const Picture& picture) {
-  Control box;
-  box.Kind = ControlKind::PictureBox;
-  box.Name = name;
-  box.Width = CellSide;
-  box.Height = CellSide;
+  Control box = MakeControl(ControlKind::PictureBox, name, {0, 0, CellSide, CellSide});
   box.Visible = false;
   box.Picture = &picture;
   return box;
 }
 
 Control MakeImage(const char* name, int index, const Control& label, const Control& pictureBox) {
-  Control image;
-  image.Kind = ControlKind::Image;
-  image.Name = name;
+  Control image = MakeControl(ControlKind::Image, name, RectOf(label));
   image.Index = index;
-  image.Left = label.Left;
-  image.Top = label.Top;
-  image.Width = CellSide;
-  image.Height = CellSide;
   image.Picture = pictureBox.Picture;
   return image;
 }

@@ -14,17 +14,6 @@ constexpr Color Red{255, 0, 0};
 constexpr Color Green{0, 255, 0};
 constexpr Color Yellow{255, 255, 0};
 
-Control MakeControl(ControlKind kind, const char* name, const Rect& place) {
-  Control control;
-  control.Kind = kind;
-  control.Name = name;
-  control.Left = place.Left;
-  control.Top = place.Top;
-  control.Width = place.Width;
-  control.Height = place.Height;
-  return control;
-}
-
 Control MakeLine(const char* name, int top, int height, const char* caption, Color color,
                  const Font& font) {
   Control label = MakeControl(ControlKind::Label, name, {0, top, SplashWidth, height});
