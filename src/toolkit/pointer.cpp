@@ -16,39 +16,39 @@ const ControlEvents* EventsOf(const Form& form, const Control* control) {
 
 int IndexOf(const Control* control) { return control ? control->Index : 0; }
 
-/// The visible controls that touch the box around the line, from front to back: no other can lie
-/// on it, and a short line touches few.
-std::vector<const Control*> ControlsNear(const Form& form, Point from, Point to) {
-  const auto [left, right] = std::minmax(from.X, to.X);
-  const auto [top, bottom] = std::minmax(from.Y, to.Y);
-  std::vector<const Control*> near;
-  for (const Control* control : form.Controls) {
-    if (control->Visible && control->Left <= right && control->Left + control->Width > left &&
-        control->Top <= bottom && control->Top + control->Height > top) {
-      near.push_back(control);
-    }
-  }
-  return near;
-}
+/// Steps of a line, from `First` to the one before `End`; there may be none.
+struct StepRange {
+  int First = 0;
+  int End = 0;
+};
 
-const Control* Frontmost(const std::vector<const Control*>& controls, Point point) {
-  const auto hit = std::ranges::find_if(
-      controls, [&](const Control* control) { return Contains(RectOf(*control), point); });
-  return hit == controls.end() ? nullptr : *hit;
-}
-
-/// A straight way, pixel by pixel.
+/// A straight way in steps of a pixel. Each step is rounded towards `From`, in both coordinates.
 struct Line {
   Point From;
   Point To;
-  int Steps = 0;  // At(Steps) is its end
+  int Steps = 0;  // the last one is `To`
 
-  Point At(int step) const { return {Between(From.X, To.X, step), Between(From.Y, To.Y, step)}; }
+  /// The steps that lie in the rectangle.
+  StepRange Inside(const Rect& rect) const {
+    const StepRange across = Between(From.X, To.X, rect.Left, rect.Left + rect.Width);
+    const StepRange down = Between(From.Y, To.Y, rect.Top, rect.Top + rect.Height);
+    return {std::max(across.First, down.First), std::min(across.End, down.End)};
+  }
 
  private:
-  /// A pointer far off the screen would overflow an int on the way.
-  int Between(int from, int to, int step) const {
-    return Steps == 0 ? from : from + static_cast<int>(std::int64_t{to - from} * step / Steps);
+  /// The steps at which a coordinate lies in `low` to `high` - 1.
+  StepRange Between(int from, int to, int low, int high) const {
+    const int way = std::abs(to - from);
+    if (from <= to) return {StepReaching(low - from, way), StepReaching(high - from, way)};
+    return {StepReaching(from - high + 1, way), StepReaching(from - low + 1, way)};
+  }
+
+  /// The first step at which a coordinate has gone so far of its whole way.
+  int StepReaching(int distance, int way) const {
+    if (distance <= 0) return 0;
+    if (distance > way) return Steps + 1;
+    // A pointer far off the screen would overflow an int.
+    return static_cast<int>((std::int64_t{distance} * Steps + way - 1) / way);
   }
 };
 
@@ -57,45 +57,56 @@ Line MakeLine(Point from, Point to) {
   return {from, to, (way + TwipsPerPixel - 1) / TwipsPerPixel};
 }
 
-/// Whether no control in front of this one reaches into it. False for the bare form.
-bool IsUncovered(const std::vector<const Control*>& controls, const Control* control) {
-  for (const Control* front : controls) {
-    if (front == control) return true;
-    if (control && Overlap(RectOf(*front), RectOf(*control))) return false;
-  }
-  return false;
-}
+/// A control that a line enters, whether it is in front there or not.
+struct Crossing {
+  const Control* Entered = nullptr;
+  StepRange Steps;
+};
 
-/// The first step behind this one, which lies on the control, that has left it.
-int FirstStepOff(const Control& control, const Line& line, int step) {
-  int outside = line.Steps + 1;
-  while (outside - step > 1) {
-    const int middle = (step + outside) / 2;
-    (Contains(RectOf(control), line.At(middle)) ? step : outside) = middle;
+/// From front to back.
+std::vector<Crossing> CrossingsOf(const Form& form, const Line& line) {
+  const auto [left, right] = std::minmax(line.From.X, line.To.X);
+  const auto [top, bottom] = std::minmax(line.From.Y, line.To.Y);
+  const Rect box{left, top, right - left + 1, bottom - top + 1};
+  std::vector<Crossing> crossings;
+  crossings.reserve(form.Controls.size());
+  for (const Control* control : form.Controls) {
+    if (!control->Visible || !Overlap(RectOf(*control), box)) continue;
+    const StepRange steps = line.Inside(RectOf(*control));
+    if (steps.First < steps.End) crossings.push_back({control, steps});
   }
-  return outside;
+  return crossings;
 }
 
 }  // namespace
 
 const Control* ControlAt(const Form& form, Point point) {
-  return Frontmost(ControlsNear(form, point, point), point);
+  const auto hit = std::ranges::find_if(form.Controls, [&](const Control* control) {
+    return control->Visible && Contains(RectOf(*control), point);
+  });
+  return hit == form.Controls.end() ? nullptr : *hit;
 }
 
 std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to) {
-  const std::vector<const Control*> near = ControlsNear(form, from, to);
   const Line line = MakeLine(from, to);
-  std::vector<const Control*> crossed;
-  for (int step = 0; step <= line.Steps;) {
-    const Point point = line.At(step);
-    const bool isInside = IsInside(form, point);
-    const Control* control = isInside ? Frontmost(near, point) : nullptr;
-    if (isInside && std::ranges::find(crossed, control) == crossed.end()) {
-      crossed.push_back(control);
+  const std::vector<Crossing> crossings = CrossingsOf(form, line);
+  const StepRange inside = line.Inside({0, 0, form.Width, form.Height});
+  std::vector<const Control*> seen;
+  seen.reserve(crossings.size() + 1);
+  for (int step = inside.First; step < inside.End;) {
+    const Control* front = nullptr;
+    int change = inside.End;  // the next step at which another control may be in front
+    for (const auto& [control, steps] : crossings) {
+      if (step >= steps.End) continue;
+      change = std::min(change, step < steps.First ? steps.First : steps.End);
+      if (step < steps.First) continue;
+      front = control;
+      break;
     }
-    step = IsUncovered(near, control) ? FirstStepOff(*control, line, step) : step + 1;
+    if (std::ranges::find(seen, front) == seen.end()) seen.push_back(front);
+    step = change;
   }
-  return crossed;
+  return seen;
 }
 
 void Pointer::Handle(const InputEvent& event) {

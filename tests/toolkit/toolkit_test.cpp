@@ -80,4 +80,47 @@ TEST_F(ToolkitTest, DoEventsDeliversOneEvent) {
   EXPECT_EQ(host.Queue.size(), 1);
 }
 
+TEST_F(ToolkitTest, FormsNeedNoHandlers) {
+  const ControlEvents none;
+  Control image = MakeControl(ControlKind::Image, "", {0, 0, 100, 100});
+  Control label = MakeControl(ControlKind::Label, "", {200, 0, 100, 100});
+  image.DragMode = 1;
+  image.Events = &none;
+  form.Width = form.Height = 500;
+  form.Controls = {&image, &label};
+  const auto send = [this](InputEvent::Kind what, Point at = {}) {
+    host.Put({.What = what, .Window = &form, .At = at});
+    toolkit.DoEvents();
+    return host.ShownDrag.Source;
+  };
+  using enum InputEvent::Kind;
+  for (const Point at : {Point{50, 50}, Point{250, 50}, Point{450, 450}, Point{600, 50}}) {
+    EXPECT_EQ(send(Press, {50, 50}), &image);
+    EXPECT_EQ(send(Move, at), &image);
+    EXPECT_EQ(send(Release, at), nullptr);
+    EXPECT_EQ(send(Press, at), at.X == 50 ? &image : nullptr);
+    EXPECT_EQ(send(CancelDrag), nullptr);
+    EXPECT_EQ(send(Release, at), nullptr);
+  }
+  Choose({});
+  toolkit.DoEvents();
+  EXPECT_TRUE(host.Queue.empty());
+}
+
+TEST_F(ToolkitTest, FormsComeToTheFrontAndGo) {
+  Form other;
+  toolkit.Show(other);
+  Choose([&] { toolkit.ZOrder(form); });
+  toolkit.DoEvents();
+  EXPECT_EQ(host.Forms, (std::vector{&form, &other}));
+  host.Put({.What = InputEvent::Kind::Close, .Window = &form});
+  Choose([&] { ADD_FAILURE() << "of a window that has gone"; });
+  toolkit.DoEvents();
+  toolkit.DoEvents();
+  EXPECT_EQ(host.Forms, std::vector{&other});
+  EXPECT_FALSE(timer.Enabled || form.Visible);
+  host.Put({.What = InputEvent::Kind::Close, .Window = &other});
+  EXPECT_THROW(toolkit.DoEvents(), ProgramEnded);
+}
+
 }  // namespace
