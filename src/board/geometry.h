@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <cassert>
+#include <cstddef>
 #include <cstdint>
 
 // Movement on the board as arithmetic on square numbers. Nothing here knows what stands on a
@@ -42,8 +44,8 @@ constexpr Square ClampSquare(int value) {
   return value >= 1 && value <= Squares ? static_cast<Square>(value) : Square{0};
 }
 
-/// The square one diagonal step away; 0 off the board, from 0, or for no direction.
-constexpr Square Neighbour(Square square, Direction direction) {
+/// The answer of `Neighbour`, worked out.
+constexpr Square NeighbourByArithmetic(Square square, Direction direction) {
   if (square == 0) return 0;
   const int base = square + RowShift(square);
   switch (direction) {
@@ -58,6 +60,26 @@ constexpr Square Neighbour(Square square, Direction direction) {
     default:
       return 0;
   }
+}
+
+/// The answers by square, from 0, and by direction. The rules ask for little else, and no processor
+/// foresees the branches of the arithmetic.
+constexpr auto Neighbours = [] {
+  std::array<std::array<Square, 6>, Squares + 1> table{};
+  for (int square = 0; square <= Squares; ++square) {
+    for (int direction = 0; direction <= 5; ++direction) {
+      table[std::size_t(square)][std::size_t(direction)] =
+          NeighbourByArithmetic(Square(square), Direction(direction));
+    }
+  }
+  return table;
+}();
+
+/// The square one diagonal step away; 0 off the board, from 0, or for no direction, as which the
+/// way back of none, 5, counts as well.
+constexpr Square Neighbour(Square square, Direction direction) {
+  assert(0 <= square && square <= Squares && 0 <= direction && direction <= 5);
+  return Neighbours[std::size_t(square)][std::size_t(direction)];
 }
 
 /// The square two steps away in a straight line, where a jump lands; 0 where there is none.

@@ -29,20 +29,47 @@ struct Position {
 
 /// Who stands on the square. Captured pieces hold square 0, so once there is one, 0 names a side:
 /// test for 0 first.
-Side SquareOwner(const Position& position, Square square);
+constexpr Side SquareOwner(const Position& position, Square square) {
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    if (position.BlueSquare[piece] == square) return Blue;
+    if (position.GreenSquare[piece] == square) return Green;
+  }
+  return Nobody;
+}
 
 /// The square itself if nobody stands on it, else 0. Square 0 gives 0.
-Square VacantOrZero(const Position& position, Square square);
+constexpr Square VacantOrZero(const Position& position, Square square) {
+  return square != 0 && SquareOwner(position, square) == Nobody ? square : Square{0};
+}
 
 /// The directions that the piece may use, captured or not.
-DirectionSetCode DirectionSet(const Position& position, int piece, bool isBlue);
+constexpr DirectionSetCode DirectionSet(const Position& position, int piece, bool isBlue) {
+  if (isBlue) return position.BlueKing[piece] ? KingSet : BlueManSet;
+  return position.GreenKing[piece] ? KingSet : GreenManSet;
+}
 
 /// The directions of a set, in rising order.
-std::span<const Direction> DirectionsOf(DirectionSetCode set);
+constexpr std::span<const Direction> DirectionsOf(DirectionSetCode set) {
+  const std::span<const Direction> all(AllDirections);
+  switch (set) {
+    case BlueManSet:
+      return all.first(2);
+    case GreenManSet:
+      return all.last(2);
+    case KingSet:
+      break;
+  }
+  return all;
+}
 
 /// Whether a piece on `square` could jump in this direction: an enemy on the next square, and the
 /// one behind it on the board and empty. False for square 0.
-bool CanJump(const Position& position, Square square, Direction direction, Side enemy);
+constexpr bool CanJump(const Position& position, Square square, Direction direction, Side enemy) {
+  const Square over = Neighbour(square, direction);
+  if (over == 0 || SquareOwner(position, over) != enemy) return false;
+  const Square landing = Neighbour(over, direction);
+  return landing != 0 && SquareOwner(position, landing) == Nobody;
+}
 
 /// Whether the tables agree with themselves: real squares or 0, and no two pieces on one square;
 /// the jump path without gaps.

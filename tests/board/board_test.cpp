@@ -37,7 +37,10 @@ TEST(Tables, AreFoundOutWhenBroken) {
       [](Position& p) { p.BlueSquare[2] = p.BlueSquare[1]; },
       [](Position& p) { p.GreenSquare[12] = p.BlueSquare[12]; },
       [](Position& p) { p.GreenSquare[1] = 33; },
+      [](Position& p) { p.BlueSquare[1] = -1; },
       [](Position& p) { p.JumpPath[2] = 17; },
+      [](Position& p) { p.JumpPath[1] = -1; },
+      [](Position& p) { p.JumpPath[1] = 33; },
   };
   for (const auto spoil : spoilers) {
     Position position = StartPosition();
