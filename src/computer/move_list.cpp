@@ -4,6 +4,8 @@
 
 namespace {
 
+constexpr int MostMoves = 4 * Pieces;
+
 std::size_t Slot(int index) { return static_cast<std::size_t>(index); }
 
 }  // namespace
@@ -27,6 +29,7 @@ void MoveListRemoveAt(MoveList& list, int index) {
 
 MoveList ShuffleMoveList(Random& random, MoveList& list) {
   MoveList shuffled;
+  shuffled.Items.reserve(list.Items.size());
   while (list.Count > 0) {
     const int index = random.Draw(list.Count);
     MoveListAdd(shuffled, list.Items[Slot(index)]);
@@ -41,6 +44,7 @@ void SwapMoves(MoveList& list, int first, int second) {
 
 MoveList ListGreenMoves(const Position& position) {
   MoveList moves;
+  moves.Items.reserve(Slot(MostMoves));
   for (int piece = 1; piece <= Pieces; ++piece) {
     const Square from = position.GreenSquare[piece];
     for (Direction direction : DirectionsOf(DirectionSet(position, piece, false))) {

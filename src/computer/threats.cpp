@@ -22,13 +22,18 @@ bool BlueMayMove(const Position& position, int blue, Direction direction) {
   return MayMove(DirectionSet(position, blue, true), direction);
 }
 
+/// Whether nobody stands on the square once the piece has left it.
+bool IsFreeWithout(const Position& position, Square square, int piece) {
+  return SquareOwner(position, square) == Nobody || square == position.GreenSquare[piece];
+}
+
 /// The blue piece that could jump over `square` in this direction; 0 if there is none.
 int BlueAttacker(const Position& position, Square square, Direction direction, int piece) {
   const Square landing = Neighbour(square, direction);
   if (landing == 0) return 0;
-  if (SquareOwner(position, landing) != Nobody && landing != position.GreenSquare[piece]) return 0;
   const int blue = PieceOn(position.BlueSquare, Neighbour(square, Opposite(direction)));
-  return blue != 0 && BlueMayMove(position, blue, direction) ? blue : 0;
+  if (blue == 0 || !BlueMayMove(position, blue, direction)) return 0;
+  return IsFreeWithout(position, landing, piece) ? blue : 0;
 }
 
 /// Whether blue, having landed on `square` in this direction, could jump on. The moved piece has
@@ -40,10 +45,7 @@ bool BlueCanJumpOn(const Position& position, Square square, Direction direction,
     const Square over = Neighbour(square, onward);
     if (over == 0 || SquareOwner(position, over) != Green) continue;
     const Square landing = Neighbour(over, onward);
-    if (landing == 0) continue;
-    if (SquareOwner(position, landing) == Nobody || landing == position.GreenSquare[piece]) {
-      return true;
-    }
+    if (landing != 0 && IsFreeWithout(position, landing, piece)) return true;
   }
   return false;
 }
@@ -106,7 +108,9 @@ bool GreenCanJumpFrom(const Position& position, Square square, int piece) {
 }
 
 bool BlueCanCapture(const Position& position, Square square, int piece) {
-  return BlueCaptureDepth(position, square, piece) > 0;
+  return std::ranges::any_of(AllDirections, [&](Direction direction) {
+    return BlueAttacker(position, square, direction, piece) != 0;
+  });
 }
 
 int BlueCaptureDepth(const Position& position, Square square, int piece) {
