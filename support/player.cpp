@@ -7,36 +7,45 @@ namespace {
 using Hops = std::vector<int>;
 
 /// Adds every drag that goes on from this one by jumps, as long as each could be the last.
-void AddJumps(const Position& position, int piece, const Hops& drag, std::vector<Hops>& drags) {
+void AddJumps(const Position& position, int piece, Hops& drag, std::vector<Hops>& drags) {
   const auto from = static_cast<Square>(drag.front());
+  const auto current = static_cast<Square>(drag.back());
   for (const Direction direction : AllDirections) {
-    const Square next = LandingSquare(static_cast<Square>(drag.back()), direction);
-    if (next == 0 || (next != from && SquareOwner(position, next) != Nobody)) continue;
-    Hops longer = drag;
-    longer.push_back(next);
+    const Square next = LandingSquare(current, direction);
+    if (next == 0 || SquareOwner(position, Neighbour(current, direction)) != Green) continue;
+    if (next != from && SquareOwner(position, next) != Nobody) continue;
+    drag.push_back(next);
     Position dragged = position;
-    std::copy(longer.begin() + 1, longer.end(), dragged.JumpPath.begin());
+    std::copy(drag.begin() + 1, drag.end(), dragged.JumpPath.begin());
     const BlueMove move = ClassifyBlueMove(dragged, from, next, true, piece);
-    if (move != (drag.size() == 1 ? BlueMoveJump : BlueMoveChain)) continue;
-    drags.push_back(longer);
-    AddJumps(position, piece, longer, drags);
+    if (move == (drag.size() == 2 ? BlueMoveJump : BlueMoveChain)) {
+      drags.push_back(drag);
+      AddJumps(position, piece, drag, drags);
+    }
+    drag.pop_back();
+  }
+}
+
+void AddSteps(const Position& position, int piece, std::vector<Hops>& drags) {
+  const Square from = position.BlueSquare[piece];
+  for (const Direction direction : DirectionsOf(DirectionSet(position, piece, true))) {
+    const Square next = VacantOrZero(position, Neighbour(from, direction));
+    if (next != 0) drags.push_back({from, next});
   }
 }
 
 }  // namespace
 
 std::vector<int> RandomDrag(const Position& position, Random& random) {
-  std::vector<Hops> steps, jumps;
+  std::vector<Hops> drags;
+  Hops drag;
   for (int piece = 1; piece <= Pieces; ++piece) {
-    const Square from = position.BlueSquare[piece];
-    if (from == 0) continue;
-    AddJumps(position, piece, {from}, jumps);
-    for (const Direction direction : DirectionsOf(DirectionSet(position, piece, true))) {
-      const Square next = VacantOrZero(position, Neighbour(from, direction));
-      if (next != 0) steps.push_back({from, next});
-    }
+    drag.assign(1, position.BlueSquare[piece]);
+    AddJumps(position, piece, drag, drags);
   }
-  const std::vector<Hops>& drags = jumps.empty() ? steps : jumps;
+  if (drags.empty()) {
+    for (int piece = 1; piece <= Pieces; ++piece) AddSteps(position, piece, drags);
+  }
   if (drags.empty()) return {};
   return drags[static_cast<std::size_t>(random.Draw(static_cast<int>(drags.size())))];
 }
