@@ -4,7 +4,6 @@
 
 #include "computer/random_direction.h"
 #include "computer/ranking.h"
-#include "human/classification.h"
 #include "support/board.h"
 
 namespace {
@@ -17,15 +16,6 @@ Random Draws(std::vector<double> values) {
 
 void ReportError() { ADD_FAILURE() << "no error to report"; }
 
-/// The board turned by half a circle, the sides exchanged.
-Position Turned(const Position& position) {
-  std::string picture = Draw(position);
-  std::ranges::reverse(picture);
-  constexpr std::string_view Marks = "bBgG. ";
-  for (char& mark : picture) mark = "gGbB. "[Marks.find(mark)];
-  return Board(picture);
-}
-
 std::string Names(const MoveList& list) {
   std::string names;
   for (int k = 0; k < list.Count; ++k) {
@@ -33,35 +23,6 @@ std::string Names(const MoveList& list) {
     names += std::to_string(move.FromSquare) + '-' + std::to_string(move.ToSquare) + ' ';
   }
   return names;
-}
-
-TEST(Moves, AreTheSameForGreenOnTheTurnedBoard) {
-  Random random;
-  for (int round = 0; round < 300; ++round) {
-    std::string picture(32, '.');
-    for (int k = 0; k < 20; ++k) {
-      picture[static_cast<std::size_t>(random.Draw(32))] = "bBgG"[k < 10 ? k % 2 : 2 + k % 2];
-    }
-    Position position = Board(picture);
-    const MoveList green = ListGreenMoves(Turned(position));
-    int count = 0;
-    for (int piece = 1; piece <= Pieces && position.BlueSquare[piece] != 0; ++piece) {
-      const Square from = position.BlueSquare[piece];
-      for (Square to = 1; to <= Squares; ++to) {
-        const BlueMove verdict = ClassifyBlueMove(position, from, to, false, piece);
-        if (verdict == BlueMoveNone || SquareOwner(position, to) != Nobody) continue;
-        ++count;
-        EXPECT_TRUE(std::ranges::any_of(green.Items,
-                                        [&](const MoveRecord& move) {
-                                          return move.FromSquare == 33 - from &&
-                                                 move.ToSquare == 33 - to &&
-                                                 int{move.Kind} == int{verdict};
-                                        }))
-            << testing::PrintToString(position) << from << " to " << to;
-      }
-    }
-    EXPECT_EQ(green.Count, count) << testing::PrintToString(position);
-  }
 }
 
 TEST(Moves, AtRandomTakeTheirDraws) {
