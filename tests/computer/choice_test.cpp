@@ -75,6 +75,7 @@ TEST(Ranking, KeepsTheShuffledOrderOfEqualMoves) {
     Random random = Draws(values);
     MoveList moves = ShuffleMoveList(random, again);
     EXPECT_EQ(Names(moves), shuffled);
+    EXPECT_TRUE(again.Count == 0 && again.Items.size() == 1) << "the emptied list keeps a slot";
     SortMoveList(position, moves, ReportError);
     EXPECT_EQ(Names(moves), sorted);
     EXPECT_EQ(random.DrawCount, 4);

@@ -102,6 +102,9 @@ TEST_F(ToolkitTest, FormsNeedNoHandlers) {
     EXPECT_EQ(send(CancelDrag), nullptr);
     EXPECT_EQ(send(Release, at), nullptr);
   }
+  EXPECT_EQ(send(Press, {50, 50}), &image);
+  image.Visible = false;
+  EXPECT_EQ(send(Move, {60, 50}), nullptr) << "nothing is left to drag";
   Choose({});
   toolkit.DoEvents();
   EXPECT_TRUE(host.Queue.empty());
@@ -113,11 +116,13 @@ TEST_F(ToolkitTest, FormsComeToTheFrontAndGo) {
   Choose([&] { toolkit.ZOrder(form); });
   toolkit.DoEvents();
   EXPECT_EQ(host.Forms, (std::vector{&form, &other}));
+  form.Unload = [this] { ticks.push_back(timer.Enabled); };
   host.Put({.What = InputEvent::Kind::Close, .Window = &form});
   Choose([&] { ADD_FAILURE() << "of a window that has gone"; });
   toolkit.DoEvents();
   toolkit.DoEvents();
   EXPECT_EQ(host.Forms, std::vector{&other});
+  EXPECT_EQ(ticks, Ticks{1});
   EXPECT_FALSE(timer.Enabled || form.Visible);
   host.Put({.What = InputEvent::Kind::Close, .Window = &other});
   EXPECT_THROW(toolkit.DoEvents(), ProgramEnded);
