@@ -7,6 +7,8 @@ constexpr int TwipsPerPixel = 15;
 struct Point {
   int X = 0;
   int Y = 0;
+
+  bool operator==(const Point&) const = default;
 };
 
 struct Rect {
