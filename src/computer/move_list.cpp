@@ -47,6 +47,7 @@ MoveList ListGreenMoves(const Position& position) {
   moves.Items.reserve(Slot(MostMoves));
   for (int piece = 1; piece <= Pieces; ++piece) {
     const Square from = position.GreenSquare[piece];
+    if (from == 0) continue;
     for (Direction direction : DirectionsOf(DirectionSet(position, piece, false))) {
       const Square next = Neighbour(from, direction);
       if (VacantOrZero(position, next) != 0) {

@@ -27,6 +27,7 @@ Direction DrawOpening(Random& random, std::span<const Direction> directions,
 Direction RandomJumpDirection(Random& random, const Position& position, int piece,
                               DirectionSetCode set, bool isBlue) {
   const Square square = SquareOf(position, piece, isBlue);
+  if (square == 0) return NoDirection;
   const std::span<const Direction> directions = DirectionsOf(set);
   Openings openings{};
   for (std::size_t entry = 0; entry < directions.size(); ++entry) {
@@ -39,6 +40,7 @@ Direction RandomJumpDirection(Random& random, const Position& position, int piec
 
 Direction RandomStepDirection(Random& random, const Position& position, int piece, bool isBlue) {
   const Square square = SquareOf(position, piece, isBlue);
+  if (square == 0) return NoDirection;
   const std::span<const Direction> directions = DirectionsOf(DirectionSet(position, piece, isBlue));
   Openings openings{};
   for (std::size_t entry = 0; entry < directions.size(); ++entry) {

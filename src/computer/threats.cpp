@@ -1,7 +1,6 @@
 #include "computer/threats.h"
 
 #include <algorithm>
-#include <cassert>
 
 namespace {
 
@@ -129,13 +128,12 @@ int ExposureDepth(const Position& position, Square from, Square to, int piece) {
   for (Direction direction : AllDirections) {
     const Square next = Neighbour(from, direction);
     const int friendly = PieceOn(position.GreenSquare, next);
-    if (friendly == 0 || BlueCanCapture(position, next, friendly) ||
+    // Only a landing on the square just left can make the difference.
+    const int blue = PieceOn(position.BlueSquare, LandingSquare(from, direction));
+    if (friendly == 0 || blue == 0 || BlueCanCapture(position, next, friendly) ||
         !BlueCanCapture(position, next, piece)) {
       continue;
     }
-    // Only a landing on the square just left can have made the difference.
-    const int blue = PieceOn(position.BlueSquare, LandingSquare(from, direction));
-    assert(blue != 0);
     best = std::max(best, ExposesSecond(position, from, to, direction, blue) ? 2 : 1);
   }
   return best;
