@@ -11,9 +11,10 @@ void AddJumps(const Position& position, int piece, Hops& drag, std::vector<Hops>
   const auto from = static_cast<Square>(drag.front());
   const auto current = static_cast<Square>(drag.back());
   for (const Direction direction : AllDirections) {
-    const Square next = LandingSquare(current, direction);
-    if (next == 0 || SquareOwner(position, Neighbour(current, direction)) != Green) continue;
-    if (next != from && SquareOwner(position, next) != Nobody) continue;
+    const Square over = Neighbour(current, direction);
+    if (over == 0 || SquareOwner(position, over) != Green) continue;
+    const Square next = Neighbour(over, direction);
+    if (next == 0 || (next != from && SquareOwner(position, next) != Nobody)) continue;
     drag.push_back(next);
     Position dragged = position;
     std::copy(drag.begin() + 1, drag.end(), dragged.JumpPath.begin());
