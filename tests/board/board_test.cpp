@@ -50,11 +50,4 @@ TEST(Tables, AreFoundOutWhenBroken) {
   }
 }
 
-TEST(Pictures, AreReadAndOthersRefused) {
-  const char* const picture = "...G .... g... .... .b.. .... .... B...";
-  EXPECT_EQ(Draw(Board(picture)), picture);
-  EXPECT_THROW(Board(".... .... .... .... .... .... .... .... ."), std::invalid_argument);
-  EXPECT_THROW(Board(".... .... .... .... .... .... .... ...x"), std::invalid_argument);
-}
-
 }  // namespace

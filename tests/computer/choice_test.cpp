@@ -93,21 +93,6 @@ TEST(Ranking, ComparesEachPairOnceWhereBothAreBetter) {
   }
 }
 
-TEST(Ranking, SetsTrapsForKingsAndKeepsThem) {
-  const auto expectBetter = [](const char* picture, Square from1, Square to1, Square from2,
-                               Square to2) {
-    const Position position = Board(picture);
-    const auto judge = [&](Square from, Square to) {
-      const int piece = GreenOn(position, from);
-      return JudgeMove(position, MakeMoveRecord(piece, from, {}, MoveKindStep, to), ReportError);
-    };
-    EXPECT_TRUE(IsBetterMove(judge(from1, to1), judge(from2, to2))) << picture;
-    EXPECT_FALSE(IsBetterMove(judge(from2, to2), judge(from1, to1))) << picture;
-  };
-  expectBetter(".... .... ...G .... .g.. .... .... B.B.", 14, 10, 14, 11);
-  expectBetter(".... ...B g... .... .... .... .... BG..", 2, 6, 21, 17);
-}
-
 TEST(Ranking, DecidesAtTheFirstReason) {
   constexpr auto Step = MoveKindStep;
   constexpr auto Jump = MoveKindJump;

@@ -65,18 +65,4 @@ TEST(ComputerTurn, DrawsForTheShuffleAndAtTheEndOfEachBlink) {
   EXPECT_EQ(desk.toolkit.random.DrawCount - before, 1 + 2 + 2);
 }
 
-TEST(ComputerTurn, IsHeldByAMessageBox) {
-  Desk desk(Board(Plain));
-  const Instant start = desk.host.Now();
-  Instant moved{0};
-  desk.AfterEvent = [&] {
-    if (moved == 0ms && GreenOn(desk.form.position, 31) == 0) moved = desk.host.Now() - start;
-  };
-  desk.host.BoxTime = 5s;
-  desk.In(750ms, [&] { desk.Choose("mnuPart1"); });
-  PlayTurn(desk, {20, 24});
-  // The tick due meanwhile comes at 5750, the other three at their old beat.
-  EXPECT_EQ(moved, 6300ms);
-}
-
 }  // namespace
