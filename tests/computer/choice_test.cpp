@@ -70,6 +70,10 @@ TEST(Ranking, KeepsTheShuffledOrderOfEqualMoves) {
     EXPECT_EQ(merits.Score, scores[k]) << k;
     EXPECT_FALSE(merits.IsSafeCrowning) << "on 3 it is a king already";
   }
+  MoveList shorter = listed;
+  MoveListRemoveAt(shorter, 1);
+  EXPECT_EQ(Names(shorter), "25-21 7-3 15-11 ");
+  EXPECT_EQ(std::ssize(shorter.Items), 3);
   const auto sort = [&](std::vector<double> values, const char* shuffled, const char* sorted) {
     MoveList again = listed;
     Random random = Draws(values);

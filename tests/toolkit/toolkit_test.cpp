@@ -97,10 +97,23 @@ TEST_F(ToolkitTest, FormsNeedNoHandlers) {
   for (const Point at : {Point{50, 50}, Point{250, 50}, Point{450, 450}, Point{600, 50}}) {
     EXPECT_EQ(send(Press, {50, 50}), &image);
     EXPECT_EQ(send(Move, at), &image);
+    EXPECT_EQ(host.ShownDrag.Pointer, at);
     EXPECT_EQ(send(Release, at), nullptr);
     EXPECT_EQ(send(Press, at), at.X == 50 ? &image : nullptr);
     EXPECT_EQ(send(CancelDrag), nullptr);
     EXPECT_EQ(send(Release, at), nullptr);
+  }
+  int cancelled = 0;
+  form.DragCancelled = [&] { ++cancelled; };
+  const auto dropAt = [&](Point at) {
+    send(Press, {50, 50});
+    send(Release, at);
+    return cancelled;
+  };
+  EXPECT_EQ(dropAt({0, 0}) + dropAt({499, 499}), 0) << "still inside";
+  for (const Point outside : {Point{-1, 0}, {0, -1}, {500, 0}, {0, 500}}) {
+    const int before = cancelled;
+    EXPECT_EQ(dropAt(outside), before + 1);
   }
   EXPECT_EQ(send(Press, {50, 50}), &image);
   image.Visible = false;
