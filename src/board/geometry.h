@@ -62,8 +62,8 @@ constexpr Square NeighbourByArithmetic(Square square, Direction direction) {
   }
 }
 
-/// The answers by square, from 0, and by direction. The rules ask for little else, and no processor
-/// foresees the branches of the arithmetic.
+/// The answers by square, from 0, and by direction. The rules ask for little else, and a processor
+/// foresees the branches of the arithmetic badly.
 constexpr auto Neighbours = [] {
   std::array<std::array<Square, 6>, Squares + 1> table{};
   for (int square = 0; square <= Squares; ++square) {

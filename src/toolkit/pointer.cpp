@@ -88,7 +88,7 @@ const Control* ControlAt(const Form& form, Point point) {
 }
 
 std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to) {
-  // Half of all events: a button goes down or up where the pointer has been already.
+  // A button mostly goes down or up where the pointer has been already.
   if (from == to && IsInside(form, to)) return {ControlAt(form, to)};
   const Line line = MakeLine(from, to);
   const std::vector<Crossing> crossings = CrossingsOf(form, line);

@@ -8,29 +8,6 @@
 
 namespace {
 
-TEST(WholeGames, StayConsistentToTheirEnd) {
-  int ended = 0;
-  Random hand;
-  for (int seed = 1; seed <= 200; ++seed) {
-    Desk desk;
-    const Position& position = desk.form.position;
-    desk.host.Midnight = seed;
-    desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)) << seed; };
-    desk.OpenBoard();
-    for (int turn = 0; turn < 300 && !position.GameOver; ++turn) {
-      const std::vector<int> drag = RandomDrag(position, hand);
-      ASSERT_FALSE(drag.empty()) << seed << testing::PrintToString(position);
-      PlayTurn(desk, drag);
-      ASSERT_EQ(desk.host.Boxes.size(), position.GameOver ? 1 : 0) << seed;
-      ASSERT_TRUE(position.GameOver || desk.form.imgBlueChecker[1].DragMode == 1) << seed;
-    }
-    if (!position.GameOver) continue;
-    ++ended;
-    EXPECT_EQ(desk.host.Boxes[0].Title, "Game Over");
-  }
-  EXPECT_GT(ended, 190);
-}
-
 /// The turns of a game with a random sequence of its own: the drag, the board and the number of
 /// draws so far.
 std::string TellGame(unsigned seed) {

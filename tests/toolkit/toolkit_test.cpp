@@ -80,7 +80,7 @@ TEST_F(ToolkitTest, DoEventsDeliversOneEvent) {
   EXPECT_EQ(host.Queue.size(), 1);
 }
 
-TEST_F(ToolkitTest, FormsNeedNoHandlers) {
+TEST_F(ToolkitTest, DragsStartFollowAndEndWithAnyHandlers) {
   const ControlEvents none;
   Control image = MakeControl(ControlKind::Image, "", {0, 0, 100, 100});
   Control label = MakeControl(ControlKind::Label, "", {200, 0, 100, 100});
