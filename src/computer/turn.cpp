@@ -1,6 +1,6 @@
 #include "computer/turn.h"
 
-#include "computer/random_direction.h"
+#include "board/random_direction.h"
 #include "computer/ranking.h"
 #include "game/blink.h"
 #include "game/turn_end.h"

@@ -1,6 +1,6 @@
 #include "game/turn_end.h"
 
-#include "computer/random_direction.h"
+#include "board/random_direction.h"
 #include "human/jump_path.h"
 
 namespace {

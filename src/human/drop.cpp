@@ -1,6 +1,6 @@
 #include "human/drop.h"
 
-#include "computer/random_direction.h"
+#include "board/random_direction.h"
 #include "game/turn_end.h"
 #include "human/classification.h"
 #include "human/jump_path.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "computer/random_direction.h"
+#include "board/random_direction.h"
 #include "computer/ranking.h"
 #include "support/board.h"
 

@@ -1,4 +1,4 @@
-#include "computer/random_direction.h"
+#include "board/random_direction.h"
 
 #include <algorithm>
 #include <array>
