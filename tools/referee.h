@@ -4,9 +4,9 @@
 #include <stdexcept>
 #include <string>
 
+#include "game/main_form.h"
 #include "grid.h"
 #include "toolkit/host.h"
-#include "ui/main_form.h"
 
 /// The game has broken a rule.
 struct Fault : std::runtime_error {

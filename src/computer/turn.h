@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 /// The tick of the pause after the human's move: the whole of the computer's turn runs inside it.
 void tmrPause_Timer(frmVelmoran& form);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 // Before each stage of its move, and once at the end, the green piece blinks: five ticks of 200
 // milliseconds. The fifth ends the stage, and the last blink of a turn opens the human's.

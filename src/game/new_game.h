@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 /// Sets up a game: the load event of the form, and the whole of a new game later on. It leaves
 /// `NewGameRequested` and the timers alone, so that a turn it has interrupted still finds out.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 // The end of every move and of every blink: crowns, counts, and announces the end of a game.
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 // The human's move: all of it happens when the button is released.
 

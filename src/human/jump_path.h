@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 // The memory of a drag: the landing squares that the pointer has passed, by geometry alone. Whether
 // they make a chain of jumps is judged at the drop.

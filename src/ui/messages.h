@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 // The commands of the Help menu. Each shows one message and changes nothing.
 

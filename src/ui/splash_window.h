@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 /// The window of the first 2500 milliseconds. It takes no input.
 struct frmSplash {

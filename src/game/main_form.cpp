@@ -1,4 +1,4 @@
-#include "ui/main_form.h"
+#include "game/main_form.h"
 
 void PlaceImage(const frmVelmoran& form, Control& image, Square square) {
   image.Top = form.lblSquare[square].Top;
