@@ -3,8 +3,8 @@
 #include "board/random_direction.h"
 #include "computer/ranking.h"
 #include "game/blink.h"
+#include "game/pieces.h"
 #include "game/turn_end.h"
-#include "human/drop.h"
 
 namespace {
 
@@ -75,9 +75,4 @@ void ComputerTurn(frmVelmoran& form) {
   }
   StartBlink(form, piece);
   form.position.BlueToMove = true;
-}
-
-void MoveGreenChecker(frmVelmoran& form, int piece, Square square) {
-  PlaceImage(form, form.imgGreenChecker[piece], square);
-  form.position.GreenSquare[piece] = square;
 }

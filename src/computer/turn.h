@@ -9,6 +9,3 @@ void tmrPause_Timer(frmVelmoran& form);
 /// can, and gives the move back. It pumps events while a blink runs, and returns without touching
 /// the board if a new game has come in meanwhile. Announces the end if green cannot move.
 void ComputerTurn(frmVelmoran& form);
-
-/// Places a green piece on a square.
-void MoveGreenChecker(frmVelmoran& form, int piece, Square square);

@@ -1,7 +1,7 @@
 #include "game/new_game.h"
 
+#include "game/pieces.h"
 #include "game/turn_end.h"
-#include "human/jump_path.h"
 
 namespace {
 

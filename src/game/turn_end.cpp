@@ -1,7 +1,7 @@
 #include "game/turn_end.h"
 
 #include "board/random_direction.h"
-#include "human/jump_path.h"
+#include "game/pieces.h"
 
 namespace {
 
@@ -57,16 +57,6 @@ bool FinishTurn(frmVelmoran& form) {
     SetBlueDragMode(form, 0);
   }
   return false;
-}
-
-void CrownChecker(frmVelmoran& form, int piece, bool isBlue) {
-  if (isBlue) {
-    form.position.BlueKing[piece] = true;
-    form.imgBlueChecker[piece].Picture = form.picBlueKingREF.Picture;
-  } else {
-    form.position.GreenKing[piece] = true;
-    form.imgGreenChecker[piece].Picture = form.picGreenKingREF.Picture;
-  }
 }
 
 void AnnounceGameEnd(frmVelmoran& form, const char* text) {

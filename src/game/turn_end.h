@@ -9,8 +9,5 @@
 /// when blue is told that it cannot move. Takes random values even when nobody needs the answer.
 bool FinishTurn(frmVelmoran& form);
 
-/// Makes a piece a king, which it may be already.
-void CrownChecker(frmVelmoran& form, int piece, bool isBlue);
-
 /// Announces the end of a game. The game is over once the user has closed the message.
 void AnnounceGameEnd(frmVelmoran& form, const char* text);

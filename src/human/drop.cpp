@@ -1,9 +1,9 @@
 #include "human/drop.h"
 
 #include "board/random_direction.h"
+#include "game/pieces.h"
 #include "game/turn_end.h"
 #include "human/classification.h"
-#include "human/jump_path.h"
 
 namespace {
 
@@ -90,12 +90,6 @@ void EndMove(frmVelmoran& form) {
   form.toolkit.SetEnabled(form.tmrPause, true);
 }
 
-void RemoveIfOn(Square square, Square& pieceSquare, Control& image) {
-  if (pieceSquare != square) return;
-  image.Visible = false;
-  pieceSquare = 0;
-}
-
 }  // namespace
 
 void lblSquare_DragDrop(frmVelmoran& form, Square index, const Control& source) {
@@ -114,16 +108,4 @@ void imgBlueChecker_DragDrop(frmVelmoran& form, int index, const Control& source
     lblSquare_DragDrop(form, position.BlueSquare[index], source);
   }
   ClearJumpPath(form);
-}
-
-void MoveBlueChecker(frmVelmoran& form, int piece, Square square) {
-  PlaceImage(form, form.imgBlueChecker[piece], square);
-  form.position.BlueSquare[piece] = square;
-}
-
-void RemoveCheckerAt(frmVelmoran& form, Square square) {
-  for (int piece = 1; piece <= Pieces; ++piece) {
-    RemoveIfOn(square, form.position.GreenSquare[piece], form.imgGreenChecker[piece]);
-    RemoveIfOn(square, form.position.BlueSquare[piece], form.imgBlueChecker[piece]);
-  }
 }

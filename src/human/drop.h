@@ -11,10 +11,3 @@ void lblSquare_DragDrop(frmVelmoran& form, Square index, const Control& source);
 /// A piece is let go on a blue piece: only a king that ends a circle of jumps on its own square
 /// moves by that.
 void imgBlueChecker_DragDrop(frmVelmoran& form, int index, const Control& source);
-
-/// Places a blue piece on a square.
-void MoveBlueChecker(frmVelmoran& form, int piece, Square square);
-
-/// Takes the piece on the square, of either colour, off the board. It keeps its crown.
-/// Square 0 changes nothing.
-void RemoveCheckerAt(frmVelmoran& form, Square square);

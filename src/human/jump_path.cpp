@@ -21,5 +21,3 @@ void imgBlueChecker_DragOver(frmVelmoran& form, int index, const Control& source
   form.position.NewGameRequested = false;
   lblSquare_DragOver(form, form.position.BlueSquare[index], source);
 }
-
-void ClearJumpPath(frmVelmoran& form) { form.position.JumpPath = {}; }

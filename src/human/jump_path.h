@@ -11,6 +11,3 @@ void lblSquare_DragOver(frmVelmoran& form, Square index, const Control& source);
 /// A drag passes over a blue piece: it counts as passing over its square, and the first one after a
 /// new game readies the computer for its turn.
 void imgBlueChecker_DragOver(frmVelmoran& form, int index, const Control& source);
-
-/// Forgets the squares dragged over.
-void ClearJumpPath(frmVelmoran& form);

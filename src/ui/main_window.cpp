@@ -3,6 +3,7 @@
 #include "computer/turn.h"
 #include "game/blink.h"
 #include "game/new_game.h"
+#include "game/pieces.h"
 #include "human/drop.h"
 #include "human/jump_path.h"
 #include "ui/description.h"
