@@ -15,7 +15,7 @@ import sys
 import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-sys.path.insert(0, str(ROOT / "support"))
+sys.path.insert(0, str(ROOT / "tests/support"))
 sys.dont_write_bytecode = True
 
 from real_window import DOWN, UP, Game, until  # noqa: E402

@@ -1,6 +1,6 @@
 """Plays one case in a real window: real_window_test.py PROGRAM CASE. Bare, it lists the cases."""
 import glob, os, pathlib, subprocess, sys, time
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "support"))
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from real_window import DOWN, START, UP, Game, until
 
 NOON = {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketime.so.1", "FAKETIME": "2024-01-01 12:00:00",

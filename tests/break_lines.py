@@ -107,9 +107,9 @@ class Bench:
                                  stdout=subprocess.PIPE)
         subprocess.run(["tar", "-x", "-C", self.root], input=archive.stdout, check=True)
         # The quickest to fail comes first.
-        self.commands = [["tools/soak", "--games", str(games)],
+        self.commands = [["tests/soak/soak", "--games", str(games)],
                          ["tests/velmoran_tests", "--gtest_brief=1", "--gtest_fail_fast"],
-                         ["tools/count", self.root / "tests/data/counts.txt"]]
+                         ["tests/soak/count", self.root / "tests/data/counts.txt"]]
         self.limits = [600] * len(self.commands)  # seconds
         self.times = list(self.limits)
         subprocess.run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja",

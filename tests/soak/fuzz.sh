@@ -3,12 +3,12 @@
 # undefined-behaviour sanitizers. Needs clang and libFuzzer. The corpus in the repository is only
 # read; what the run finds stays in the build folder.
 set -euo pipefail
-cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.."
 build=${BUILD:-build-fuzz}
 
 cmake -S . -B "$build" -D CMAKE_CXX_COMPILER="${CXX:-clang++}" -D CMAKE_BUILD_TYPE=Release \
   -D VELMORAN_DESKTOP=OFF -D VELMORAN_TESTS=ON -D VELMORAN_FUZZ=ON >/dev/null
 cmake --build "$build" --target fuzz
 mkdir -p "$build/corpus"
-exec "$build/tools/fuzz" "$build/corpus" tools/fuzz_corpus -max_total_time="${1:-60}" -max_len=300 \
+exec "$build/tests/soak/fuzz" "$build/corpus" tests/soak/corpus -max_total_time="${1:-60}" -max_len=300 \
   -timeout=10 -entropic=0 -print_final_stats=1 -artifact_prefix="$build/"
