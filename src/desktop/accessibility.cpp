@@ -26,7 +26,7 @@ class ControlAccessible : public QAccessibleInterface {
 
   QString text(QAccessible::Text kind) const override {
     if (kind != QAccessible::Name) return {};
-    return QString::fromStdString(view.ShownForm().Describe(control));
+    return QString::fromStdString(view.ViewedForm().Describe(control));
   }
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override {
@@ -46,10 +46,10 @@ class FormAccessible : public QAccessibleWidget {
  public:
   explicit FormAccessible(FormView& formView)
       : QAccessibleWidget(&formView, QAccessible::Grouping,
-                          QString::fromStdString(formView.ShownForm().Caption).trimmed()) {
-    if (!formView.ShownForm().Describe) return;
-    for (const Control* control : formView.ShownForm().Controls) {
-      if (formView.ShownForm().Describe(*control).empty()) continue;
+                          QString::fromStdString(formView.ViewedForm().Caption).trimmed()) {
+    if (!formView.ViewedForm().Describe) return;
+    for (const Control* control : formView.ViewedForm().Controls) {
+      if (formView.ViewedForm().Describe(*control).empty()) continue;
       // From here on it belongs to the registry.
       auto* child = new ControlAccessible(formView, *control);
       children.push_back(QAccessible::registerAccessibleInterface(child));  // NOLINT: no leak

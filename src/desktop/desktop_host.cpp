@@ -64,13 +64,13 @@ void DesktopHost::Put(const InputEvent& event) {
 void DesktopHost::CloseWindows(std::span<Form* const> forms) {
   std::erase_if(windows, [&](const std::unique_ptr<FormWindow>& window) {
     return std::ranges::none_of(
-        forms, [&](const Form* form) { return form == &window->ShownForm() && form->Visible; });
+        forms, [&](const Form* form) { return form == &window->ViewedForm() && form->Visible; });
   });
 }
 
 FormWindow& DesktopHost::WindowOf(Form& form) {
   const auto shown = std::ranges::find_if(
-      windows, [&](const auto& window) { return &window->ShownForm() == &form; });
+      windows, [&](const auto& window) { return &window->ViewedForm() == &form; });
   if (shown != windows.end()) return **shown;
   windows.push_back(
       std::make_unique<FormWindow>(form, [this](const InputEvent& event) { Put(event); }));

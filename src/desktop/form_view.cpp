@@ -13,40 +13,24 @@ QRectF PixelRect(const Rect& place) {
   return {ToPixels(place.Left), ToPixels(place.Top), ToPixels(place.Width), ToPixels(place.Height)};
 }
 
-/// Where the outline of the dragged image stands: it keeps its distance from the pointer.
-std::optional<Rect> OutlineOf(const Form& form, const Drag& drag) {
-  if (!drag.Source || drag.Window != &form) return std::nullopt;
-  Rect place = RectOf(*drag.Source);
-  place.Left += drag.Pointer.X - drag.Start.X;
-  place.Top += drag.Pointer.Y - drag.Start.Y;
-  return place;
-}
-
 }  // namespace
 
-FormView::FormView(const Form& shownForm) : form(shownForm) {
+FormView::FormView(const Form& viewedForm) : form(viewedForm), shown(viewedForm) {
   setFixedSize(form.Width / TwipsPerPixel, form.Height / TwipsPerPixel);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
 }
 
 void FormView::Refresh(const Drag& drag) {
-  looks.resize(form.Controls.size());
-  bool isChanged = false;
-  for (std::size_t i = 0; i < looks.size(); ++i) {
-    Look look = LookOf(*form.Controls[i]);
-    if (look == looks[i]) continue;
-    Repaint(looks[i].Place);
-    Repaint(look.Place);
-    looks[i] = std::move(look);
-    isChanged = true;
+  const ShownForm::Changes changes = shown.Update(drag);
+  for (const ShownForm::ChangedLook& look : changes.Looks) {
+    Repaint(look.Before.Place);
+    Repaint(look.Now.Place);
   }
-  if (isChanged) AnnounceChanges(*this);
-  const std::optional<Rect> newOutline = OutlineOf(form, drag);
-  if (newOutline == outline) return;
-  if (outline) Repaint(*outline);
-  if (newOutline) Repaint(*newOutline);
-  outline = newOutline;
+  if (!changes.Looks.empty()) AnnounceChanges(*this);
+  if (!changes.HasOutlineChanged) return;
+  if (changes.OutlineBefore) Repaint(*changes.OutlineBefore);
+  if (shown.Outline()) Repaint(*shown.Outline());
 }
 
 void FormView::paintEvent(QPaintEvent* event) {
@@ -58,11 +42,7 @@ void FormView::paintEvent(QPaintEvent* event) {
       PaintControl(painter, *control);
     }
   });
-  if (outline) PaintDragOutline(painter, PixelRect(*outline));
-}
-
-FormView::Look FormView::LookOf(const Control& control) {
-  return {control.Visible, RectOf(control), control.Picture, control.BackColor, control.Caption};
+  if (shown.Outline()) PaintDragOutline(painter, PixelRect(*shown.Outline()));
 }
 
 void FormView::Repaint(const Rect& place) { update(PixelRect(place).toAlignedRect()); }

@@ -20,7 +20,7 @@ class FormWindow {
   void Raise();
 
   QWidget* Widget() const { return window.get(); }
-  const Form& ShownForm() const { return form; }
+  const Form& ViewedForm() const { return form; }
 
  private:
   void BuildFramed(const std::function<void(const InputEvent&)>& sink);
