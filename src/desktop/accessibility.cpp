@@ -1,10 +1,8 @@
 #include "desktop/accessibility.h"
 
 #include <QAccessibleWidget>
+#include <algorithm>
 #include <vector>
-
-#include "desktop/form_view.h"
-#include "desktop/painting.h"
 
 namespace {
 
@@ -30,7 +28,7 @@ class ControlAccessible : public QAccessibleInterface {
   }
   void setText(QAccessible::Text, const QString&) override {}
   QRect rect() const override {
-    const QRect place = PixelRectOf(control).toAlignedRect();
+    const QRect place = view.PixelsOf(RectOf(control)).toAlignedRect();
     return {view.mapToGlobal(place.topLeft()), place.size()};
   }
   QAccessible::Role role() const override { return QAccessible::Graphic; }
@@ -53,6 +51,7 @@ class FormAccessible : public QAccessibleWidget {
       // From here on it belongs to the registry.
       auto* child = new ControlAccessible(formView, *control);
       children.push_back(QAccessible::registerAccessibleInterface(child));  // NOLINT: no leak
+      described.push_back(control);
     }
   }
   ~FormAccessible() override {
@@ -70,6 +69,11 @@ class FormAccessible : public QAccessibleWidget {
     }
     return -1;
   }
+  /// The child of a control; empty where there is none.
+  QAccessibleInterface* childOf(const Control& control) const {
+    const auto place = std::ranges::find(described, &control);
+    return child(static_cast<int>(place - described.begin()));
+  }
   QAccessibleInterface* childAt(int x, int y) const override {
     for (int index = 0; index < childCount(); ++index) {
       if (child(index)->rect().contains(x, y)) return child(index);
@@ -79,6 +83,7 @@ class FormAccessible : public QAccessibleWidget {
 
  private:
   std::vector<QAccessible::Id> children;
+  std::vector<const Control*> described;  // by the children
 };
 
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
@@ -90,11 +95,15 @@ QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
 
 void InstallAccessibility() { QAccessible::installFactory(MakeAccessible); }
 
-void AnnounceChanges(FormView& view) {
-  if (!QAccessible::isActive()) return;
-  QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&view);
-  for (int index = 0; board && index < board->childCount(); ++index) {
-    QAccessibleEvent changed(board->child(index), QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&changed);
+void AnnounceChanges(FormView& view, const std::vector<ShownForm::ChangedWords>& words) {
+  if (words.empty() || !QAccessible::isActive()) return;
+  const auto* board = dynamic_cast<FormAccessible*>(QAccessible::queryAccessibleInterface(&view));
+  if (!board) return;
+  for (const ShownForm::ChangedWords& changed : words) {
+    // Those that had no name before are new, and found with their name.
+    if (changed.Before.empty()) continue;
+    QAccessibleEvent event(board->childOf(*view.ViewedForm().Controls[changed.Place]),
+                           QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
   }
 }

@@ -3,22 +3,34 @@
 #include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/accessibility.h"
 #include "desktop/painting.h"
 
 namespace {
 
-QRectF PixelRect(const Rect& place) {
-  return {ToPixels(place.Left), ToPixels(place.Top), ToPixels(place.Width), ToPixels(place.Height)};
+/// Around what is repainted. At a fractional ratio Qt rounds the region that it lets be painted and
+/// the edges of what is painted there, each for itself, and the two may lie pixels apart.
+constexpr int RepaintMargin = 2;
+
+QRect AroundPixels(const QRectF& pixels) {
+  return pixels.toAlignedRect().adjusted(-RepaintMargin, -RepaintMargin, RepaintMargin,
+                                         RepaintMargin);
+}
+
+int ToTwips(double place, int size, int pixels) {
+  return static_cast<int>(std::floor(place * size / pixels));
 }
 
 }  // namespace
 
 FormView::FormView(const Form& viewedForm) : form(viewedForm), shown(viewedForm) {
-  setFixedSize(form.Width / TwipsPerPixel, form.Height / TwipsPerPixel);
+  SetScale(1);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
+  // Otherwise the menu bar would keep the keyboard once a menu has been closed.
+  setFocusPolicy(Qt::ClickFocus);
 }
 
 void FormView::Refresh(const Drag& drag) {
@@ -27,22 +39,38 @@ void FormView::Refresh(const Drag& drag) {
     Repaint(look.Before.Place);
     Repaint(look.Now.Place);
   }
-  if (!changes.Looks.empty()) AnnounceChanges(*this);
+  AnnounceChanges(*this, changes.Words);
   if (!changes.HasOutlineChanged) return;
   if (changes.OutlineBefore) Repaint(*changes.OutlineBefore);
   if (shown.Outline()) Repaint(*shown.Outline());
 }
 
+void FormView::SetScale(double scale) {
+  setFixedSize(static_cast<int>(ToPixels(form.Width) * scale),
+               static_cast<int>(ToPixels(form.Height) * scale));
+}
+
+Point FormView::PointAt(QPointF pixels) const {
+  return {ToTwips(pixels.x(), form.Width, width()), ToTwips(pixels.y(), form.Height, height())};
+}
+
+QRectF FormView::PixelsOf(const Rect& place) const { return ToView().mapRect(PixelRect(place)); }
+
 void FormView::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  painter.setClipRegion(event->region());
-  painter.fillRect(rect(), ToQColor(form.BackColor));
+  painter.setTransform(ToView());
+  painter.fillRect(PixelRect({0, 0, form.Width, form.Height}), ToQColor(form.BackColor));
   std::for_each(form.Controls.rbegin(), form.Controls.rend(), [&](const Control* control) {
-    if (control->Visible && event->region().intersects(PixelRectOf(*control).toAlignedRect())) {
-      PaintControl(painter, *control);
-    }
+    if (!control->Visible) return;
+    if (!event->region().intersects(AroundPixels(PixelsOf(RectOf(*control))))) return;
+    PaintControl(painter, *control);
   });
   if (shown.Outline()) PaintDragOutline(painter, PixelRect(*shown.Outline()));
 }
 
-void FormView::Repaint(const Rect& place) { update(PixelRect(place).toAlignedRect()); }
+/// From the form's own pixels to those of the view.
+QTransform FormView::ToView() const {
+  return QTransform::fromScale(width() / ToPixels(form.Width), height() / ToPixels(form.Height));
+}
+
+void FormView::Repaint(const Rect& place) { update(AroundPixels(PixelsOf(place))); }

@@ -3,17 +3,8 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <cmath>
 
-namespace {
-
-int ToTwips(double pixels) { return static_cast<int>(std::floor(pixels * TwipsPerPixel)); }
-
-Point ToPoint(QPointF pixels) { return {ToTwips(pixels.x()), ToTwips(pixels.y())}; }
-
-}  // namespace
-
-void InputFilter::Watch(QObject* watchedView, QObject* window) {
+void InputFilter::Watch(FormView* watchedView, QObject* window) {
   view = watchedView;
   view->installEventFilter(this);
   if (window != view) window->installEventFilter(this);
@@ -50,7 +41,7 @@ bool InputFilter::FilterPointer(QEvent* event) {
         return true;
       }
       isLeftDown = true;
-      Put(InputEvent::Kind::Press, ToPoint(mouse->position()));
+      Put(InputEvent::Kind::Press, view->PointAt(mouse->position()));
       return true;
     }
     case QEvent::MouseMove: {
@@ -60,14 +51,14 @@ bool InputFilter::FilterPointer(QEvent* event) {
         isLeftDown = false;
         Put(InputEvent::Kind::CancelDrag);
       }
-      Put(InputEvent::Kind::Move, ToPoint(mouse->position()));
+      Put(InputEvent::Kind::Move, view->PointAt(mouse->position()));
       return true;
     }
     case QEvent::MouseButtonRelease: {
       const auto* mouse = static_cast<QMouseEvent*>(event);
       if (mouse->button() != Qt::LeftButton) return true;
       isLeftDown = false;
-      Put(InputEvent::Kind::Release, ToPoint(mouse->position()));
+      Put(InputEvent::Kind::Release, view->PointAt(mouse->position()));
       return true;
     }
     default:

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <functional>
 
-#include "toolkit/host.h"
+#include "desktop/form_view.h"
 
 /// Translates what happens to a window into the raw input of its form.
 class InputFilter : public QObject {
@@ -12,7 +12,7 @@ class InputFilter : public QObject {
       : form(inputForm), sink(std::move(inputSink)) {}
 
   /// `view` is the client area, `window` the whole; they may be the same.
-  void Watch(QObject* view, QObject* window);
+  void Watch(FormView* view, QObject* window);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -22,6 +22,6 @@ class InputFilter : public QObject {
 
   Form& form;
   std::function<void(const InputEvent&)> sink;
-  QObject* view = nullptr;
+  FormView* view = nullptr;
   bool isLeftDown = false;  // as far as presses and releases have told
 };

@@ -1,6 +1,8 @@
 #include "desktop/painting.h"
 
 #include <QPolygonF>
+#include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -49,35 +51,46 @@ void PaintCaption(QPainter& painter, const Control& control) {
   font.setFamilies(families);
   // The form's points are those of 96 dots per inch, whatever the screen says of itself.
   font.setPixelSize(control.Font.Points * 96 / 72);
+  const QString caption = QString::fromStdString(control.Caption);
+  const double room = ToPixels(control.CaptionWidth != 0 ? control.CaptionWidth : control.Width);
+  while (font.pixelSize() > 1 && QFontMetricsF(font).horizontalAdvance(caption) > room) {
+    font.setPixelSize(font.pixelSize() - 1);
+  }
   painter.setFont(font);
   painter.setPen(ToQColor(control.ForeColor));
-  painter.drawText(PixelRectOf(control), Qt::AlignHCenter | Qt::AlignTop,
-                   QString::fromStdString(control.Caption));
+  painter.drawText(PixelRect(RectOf(control)), Qt::AlignHCenter | Qt::AlignTop, caption);
 }
 
 void PaintLabel(QPainter& painter, const Control& control) {
-  if (control.BackColor) painter.fillRect(PixelRectOf(control), ToQColor(*control.BackColor));
+  if (control.BackColor) painter.fillRect(PixelRect(RectOf(control)), ToQColor(*control.BackColor));
   if (!control.Caption.empty()) PaintCaption(painter, control);
 }
 
-/// The line lies inside the rectangle, with its whole width.
-void PaintBorder(QPainter& painter, const Control& control) {
-  const double half = control.LineWidth / 2.0;
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  QPen pen(ToQColor(control.ForeColor), control.LineWidth);
-  pen.setJoinStyle(Qt::MiterJoin);
-  painter.setPen(pen);
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRect(PixelRectOf(control).adjusted(half, half, -half, -half));
+/// A frame of lines of these colours, the outermost first. It is laid out in pixels of the screen,
+/// as each side for itself might be rounded otherwise than the next.
+void PaintFrame(QPainter& painter, const QRectF& place, int lineWidth,
+                std::initializer_list<Color> colors) {
+  const QTransform toScreen = painter.deviceTransform();
+  const int width = std::max(1, qRound(lineWidth * toScreen.m11()));
+  QRect box = toScreen.mapRect(place).toRect();
+  painter.save();
+  painter.setWorldTransform(toScreen.inverted(), true);
+  for (const Color color : colors) {
+    const QRect inner = box.adjusted(width, width, -width, -width);
+    for (const QRect& side : QRegion(box).subtracted(inner)) {
+      painter.fillRect(side, ToQColor(color));
+    }
+    box = inner;
+  }
+  painter.restore();
 }
 
 }  // namespace
 
 QColor ToQColor(Color color) { return {color.Red, color.Green, color.Blue}; }
 
-QRectF PixelRectOf(const Control& control) {
-  return {ToPixels(control.Left), ToPixels(control.Top), ToPixels(control.Width),
-          ToPixels(control.Height)};
+QRectF PixelRect(const Rect& place) {
+  return {ToPixels(place.Left), ToPixels(place.Top), ToPixels(place.Width), ToPixels(place.Height)};
 }
 
 void PaintControl(QPainter& painter, const Control& control) {
@@ -86,10 +99,10 @@ void PaintControl(QPainter& painter, const Control& control) {
       PaintLabel(painter, control);
       break;
     case ControlKind::Image:
-      if (control.Picture) PaintPicture(painter, *control.Picture, PixelRectOf(control));
+      if (control.Picture) PaintPicture(painter, *control.Picture, PixelRect(RectOf(control)));
       break;
     case ControlKind::Border:
-      PaintBorder(painter, control);
+      PaintFrame(painter, PixelRect(RectOf(control)), control.LineWidth, {control.ForeColor});
       break;
     case ControlKind::PictureBox:
       break;
@@ -106,12 +119,7 @@ void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& place
 }
 
 void PaintDragOutline(QPainter& painter, const QRectF& place) {
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(Qt::white, 1));
-  painter.drawRect(place.adjusted(0, 0, -1, -1));
-  painter.setPen(QPen(Qt::black, 1));
-  painter.drawRect(place.adjusted(1, 1, -2, -2));
+  PaintFrame(painter, place, 1, {{255, 255, 255}, {0, 0, 0}});
 }
 
 QIcon MakeIcon(const Picture& picture) {

@@ -12,16 +12,17 @@ constexpr double ToPixels(int twips) { return static_cast<double>(twips) / Twips
 
 QColor ToQColor(Color color);
 
-/// The place of a control in the pixels of its window.
-QRectF PixelRectOf(const Control& control);
+/// A place in the form's own pixels.
+QRectF PixelRect(const Rect& place);
 
-/// Paints a control as it stands. Nothing of it lies outside `PixelRectOf`.
+/// Paints a control as it stands, in the form's own pixels. Nothing of it lies outside its place.
 void PaintControl(QPainter& painter, const Control& control);
 
 /// Paints a picture over the whole rectangle.
 void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& place);
 
-/// Paints the outline that follows the pointer in a drag: it shows on light and on dark.
+/// Paints the outline that follows the pointer in a drag, within its place and equally thick on all
+/// sides: a light line and a dark one, so that it shows on any ground.
 void PaintDragOutline(QPainter& painter, const QRectF& place);
 
 /// A picture as a window icon, in the usual sizes.

@@ -48,7 +48,9 @@ struct Control {
   Color ForeColor;                     // Label: its caption; Border: its line
   std::string Caption;                 // UTF-8
   ::Font Font;
-  int LineWidth = 0;  // Border: pixels
+  int CaptionWidth = 0;  // twips a caption may take, with a font that is wider it is drawn
+                         // smaller; 0: the whole width
+  int LineWidth = 0;     // Border: pixels
 
   const ControlEvents* Events = nullptr;  // shared by a control array
 };

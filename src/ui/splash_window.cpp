@@ -39,6 +39,8 @@ void BuildControls(frmSplash& form) {
                               Yellow, creditFont);
   form.imgCheckerBoard1 = MakeBoard("imgCheckerBoard1", 255);
   form.imgCheckerBoard2 = MakeBoard("imgCheckerBoard2", 6525);
+  form.lblTitle.CaptionWidth =
+      form.imgCheckerBoard2.Left - form.imgCheckerBoard1.Left - form.imgCheckerBoard1.Width;
   form.shpBorder = MakeControl(ControlKind::Border, "shpBorder", {30, 30, 7680, 2655});
   form.shpBorder.ForeColor = Red;
   form.shpBorder.LineWidth = 5;

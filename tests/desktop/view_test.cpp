@@ -2,6 +2,8 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QScreen>
+#include <random>
 
 #include "desktop/accessibility.h"
 #include "desktop/form_view.h"
@@ -11,7 +13,8 @@
 
 namespace {
 
-constexpr QRgb Black = qRgb(0, 0, 0), Red = qRgb(255, 0, 0), Cyan = qRgb(1, 255, 255);
+constexpr QRgb White = qRgb(255, 255, 255), Black = qRgb(0, 0, 0), Red = qRgb(255, 0, 0),
+               Cyan = qRgb(1, 255, 255);
 constexpr QRgb Blue = qRgb(36, 1, 254), Green = qRgb(36, 255, 2), DarkGreen = qRgb(1, 127, 1);
 
 /// How many pixels of a row have exactly this colour.
@@ -60,6 +63,65 @@ TEST(View, IsSharpAtAnyRatio) {
     const int blurred = size - Count(image, size / 2, Black) - Count(image, size / 2, Blue);
     EXPECT_LE(blurred, 2) << ratio;
     EXPECT_NEAR(Count(image, size / 2, Blue), 59 * ratio, 2) << ratio;
+    PaintDragOutline(painter, QRectF(10.3, 10.3, 40, 40));
+    const int line = qRound(ratio);
+    EXPECT_EQ(Count(image, size / 2, White), 2 * line) << ratio;
+    EXPECT_EQ(Count(image.transformed(QTransform().rotate(90)), size / 2, White), 2 * line);
+  }
+}
+
+/// What stands on the screen.
+QImage Shot(const QWidget& window) {
+  QApplication::processEvents();
+  return window.screen()->grabWindow(window.winId()).toImage();
+}
+
+// Run at each ratio that screens have, by QT_SCALE_FACTOR.
+TEST(View, ShowsAfterAnyChangesWhatOneRepaintShows) {
+  std::mt19937 generator(1);
+  const auto roll = [&](int sides) { return static_cast<int>(generator() % unsigned(sides)); };
+  Desk desk(StartPosition());
+  const Picture* const pictures[] = {&BlueKingPicture, &GreenCheckerHighlightPicture,
+                                     &CheckerBoardPicture};
+  QWidget window;
+  window.setFixedSize(560, 560);
+  auto* view = new FormView(desk.form.window);
+  view->setParent(&window);
+  view->move(3, 23);  // half a pixel of the screen at 1.5, as a menu bar can make it
+  window.show();
+  for (int round = 0; round < 300; ++round) {
+    if (round % 100 == 0) view->SetScale(1 - 0.17 * (round / 100));
+    for (int change = roll(3); change >= 0; --change) {
+      Control& image = desk.form.imgGreenChecker[1 + roll(12)];
+      image.Left = roll(8000) - 400;
+      image.Top = roll(8000) - 400;
+      image.Visible = roll(4) != 0;
+      image.Picture = pictures[roll(3)];
+      desk.form.lblSquare[1 + roll(32)].BackColor->Blue = static_cast<std::uint8_t>(roll(256));
+    }
+    const Drag drag{&desk.form.window, &desk.form.imgBlueChecker[1], {}, {roll(8000), -roll(8000)}};
+    view->Refresh(roll(3) == 0 ? Drag{} : drag);
+    const QImage mended = Shot(window);
+    view->update();
+    ASSERT_EQ(mended, Shot(window)) << "at ratio " << view->devicePixelRatioF() << " in " << round;
+  }
+}
+
+TEST(View, KeepsACaptionInItsRoom) {
+  Desk desk;
+  for (const char* family : {"Liberation Sans", "DejaVu Sans"}) {
+    desk.splash.lblTitle.Font.Families = {family};
+    const QImage title = FormView(desk.splash.window).grab().toImage().copy(0, 8, 516, 89);
+    QRegion letters;
+    for (int y = 0; y < 89; ++y) {
+      for (int x = 0; x < 516; ++x) {
+        if (qRed(title.pixel(x, y)) > 0 && qBlue(title.pixel(x, y)) > 0)
+          letters += QRect(x, y, 1, 1);
+      }
+    }
+    EXPECT_GE(letters.boundingRect().left(), 81) << family;
+    EXPECT_LT(letters.boundingRect().right(), 435) << family;
+    EXPECT_GT(letters.boundingRect().width(), 320) << family;
   }
 }
 
