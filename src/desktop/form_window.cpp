@@ -2,7 +2,6 @@
 
 #include <QLayout>
 #include <QMainWindow>
-#include <QScreen>
 
 #include "desktop/menu_bar.h"
 #include "desktop/painting.h"
@@ -19,9 +18,7 @@ FormWindow::FormWindow(Form& shownForm, const std::function<void(const InputEven
   filter.Watch(view, window.get());
   window->setWindowTitle(QString::fromStdString(form.Caption));
   if (form.Icon) window->setWindowIcon(MakeIcon(*form.Icon));
-  window->adjustSize();
-  const QRect screen = window->screen()->availableGeometry();
-  window->move(screen.center() - window->rect().center());
+  placement = std::make_unique<Placement>(*window, *view);
   window->show();
 }
 

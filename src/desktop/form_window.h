@@ -6,11 +6,12 @@
 
 #include "desktop/form_view.h"
 #include "desktop/input_filter.h"
+#include "desktop/placement.h"
 
 /// A form on the screen.
 class FormWindow {
  public:
-  /// Builds and shows the window, in the centre of the screen. `sink` takes its raw input.
+  /// Builds and shows the window, as its `Placement` has it. `sink` takes its raw input.
   FormWindow(Form& shownForm, const std::function<void(const InputEvent&)>& sink);
 
   /// Brings the window up to date.
@@ -29,4 +30,5 @@ class FormWindow {
   FormView* view = nullptr;  // is the window itself where there is no frame
   InputFilter filter;
   std::unique_ptr<QWidget> window;
+  std::unique_ptr<Placement> placement;
 };

@@ -1,13 +1,19 @@
 #include "desktop/message_box.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QMessageBox>
+#include <QScreen>
+#include <QWindow>
 #include <algorithm>
+
+#include "toolkit/paragraphs.h"
 
 namespace {
 
 // Longer lines are paragraphs, which the box wraps by itself.
 constexpr int LongestBrokenLine = 80;
+constexpr int ParagraphWidth = 400;
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
@@ -21,27 +27,40 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
   return QMessageBox::Information;
 }
 
-/// The box would wrap lines over 500 pixels, and so break lines again that were broken by hand:
-/// with a large font they are longer than that.
-void KeepBrokenLines(QMessageBox& box) {
-  auto* label = box.findChild<QLabel*>("qt_msgbox_label");
-  if (!label) return;
+QString TextOf(const std::string& text) {
+  return QString::fromStdString(text).replace("\r\n", "\n");
+}
+
+int WidthFor(const QString& text, const QFontMetrics& metrics) {
   int width = 0;
-  for (const QString& line : box.text().split('\n')) {
-    if (line.size() <= LongestBrokenLine) {
-      width = std::max(width, label->fontMetrics().horizontalAdvance(line));
-    }
+  for (const QString& line : text.split('\n')) {
+    const bool isParagraph = line.size() > LongestBrokenLine;
+    width = std::max(width, isParagraph ? ParagraphWidth : metrics.horizontalAdvance(line));
   }
-  label->setMinimumWidth(width);
+  return width;
+}
+
+/// The box would wrap lines over 500 pixels, or over half of a small screen, and so break lines
+/// again that were broken by hand. Only where the screen is narrower than they are it has to.
+void KeepBrokenLines(QMessageBox& dialog, const std::string& text, int screenWidth) {
+  auto* label = dialog.findChild<QLabel*>("qt_msgbox_label");
+  if (!label) return;
+  label->setWordWrap(true);  // as it will be, so that what stands around it can be measured
+  const int around = dialog.layout()->totalMinimumSize().width() - label->minimumSizeHint().width();
+  const int width = WidthFor(dialog.text(), label->fontMetrics());
+  label->setMinimumWidth(std::min(width, screenWidth - around));
+  if (width > screenWidth - around) dialog.setText(TextOf(JoinBrokenLines(text)));
 }
 
 }  // namespace
 
 void ShowModal(const MessageBox& box, QWidget* window) {
-  const QString text = QString::fromStdString(box.Text).replace("\r\n", "\n");
-  QMessageBox dialog(IconOf(box.Icon), QString::fromStdString(box.Title), text, QMessageBox::Ok,
-                     window);
+  QMessageBox dialog(IconOf(box.Icon), QString::fromStdString(box.Title), TextOf(box.Text),
+                     QMessageBox::Ok, window);
   dialog.setTextFormat(Qt::PlainText);
-  KeepBrokenLines(dialog);
+  // Its frame will be like that of the window.
+  const QMargins frame = window ? window->windowHandle()->frameMargins() : QMargins();
+  const QRect room = dialog.screen()->availableGeometry().marginsRemoved(frame);
+  KeepBrokenLines(dialog, box.Text, room.width());
   dialog.exec();
 }

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include "desktop/form_view.h"
+
+/// Keeps a window in reach: as large as its form where the screen has room for it, else smaller as
+/// a whole, and with its top left corner on the part of the screen that is free for windows.
+class Placement : public QObject {
+ public:
+  /// Places the window, whose client area is `view`, in the centre of its screen.
+  Placement(QWidget& placedWindow, FormView& placedView);
+
+  /// Sees when the window manager has drawn the frame, whose size nobody knows before.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void WatchScreen();
+  void KeepInReach();
+  void Fit();
+  void MoveToCentre();
+
+  QWidget& window;
+  FormView& view;
+  QWindow* handle = nullptr;
+  QMargins frame;  // as far as known: the title bar and the edges
+  QMetaObject::Connection roomChanged;
+};
