@@ -2,6 +2,8 @@
 
 #include <dlfcn.h>
 
+#include <QGuiApplication>
+#include <QScreen>
 #include <QString>
 #include <QtGlobal>
 #include <cstdio>
@@ -9,16 +11,25 @@
 
 namespace {
 
-[[noreturn]] void Leave(const char* line) {
-  std::fputs(line, stderr);
+constexpr int LeastDepth = 15;  // bits a pixel; on less Qt draws nothing
+
+[[noreturn]] void Leave(const QString& reason) {
+  std::fprintf(stderr, "velmoran: %s\n", qPrintable(reason.simplified()));
   std::_Exit(1);
 }
 
-void TellMissing(QtMsgType type, const QMessageLogContext&, const QString&) {
-  if (type == QtFatalMsg) Leave("velmoran: there is no display to open a window on\n");
+/// What Qt has said so far of why it cannot start. A second platform may still do.
+QString& Reasons() {
+  static QString reasons;
+  return reasons;
 }
 
-[[noreturn]] void TellLost() { Leave("velmoran: the display is gone\n"); }
+void KeepReason(QtMsgType type, const QMessageLogContext&, const QString& message) {
+  if (type == QtFatalMsg) Leave("no window can be opened" + Reasons());
+  Reasons() += (Reasons().isEmpty() ? ": " : "; ") + message.simplified();
+}
+
+[[noreturn]] void TellLost() { Leave("the display is gone"); }
 
 void TellOthers(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (message.contains("connection broke")) TellLost();
@@ -29,9 +40,11 @@ int HandleXlibError(void*) { TellLost(); }
 
 }  // namespace
 
-void ReportMissingDisplay() { qInstallMessageHandler(TellMissing); }
+void ReportMissingDisplay() { qInstallMessageHandler(KeepReason); }
 
 void ReportLostDisplay() {
+  const int depth = QGuiApplication::primaryScreen()->depth();
+  if (depth < LeastDepth) Leave(QString("a display of %1 bits has too few colours").arg(depth));
   qInstallMessageHandler(TellOthers);
   // On X11 it may be Xlib that notices first. Qt's plugin has loaded it then, and only then.
   void* xlib = dlopen("libX11.so.6", RTLD_LAZY | RTLD_NOLOAD);
