@@ -4,7 +4,7 @@
 #include <QLayout>
 #include <QMessageBox>
 #include <QScreen>
-#include <QWindow>
+#include <QStyle>
 #include <algorithm>
 
 #include "toolkit/paragraphs.h"
@@ -58,9 +58,9 @@ void ShowModal(const MessageBox& box, QWidget* window) {
   QMessageBox dialog(IconOf(box.Icon), QString::fromStdString(box.Title), TextOf(box.Text),
                      QMessageBox::Ok, window);
   dialog.setTextFormat(Qt::PlainText);
-  // Its frame will be like that of the window.
-  const QMargins frame = window ? window->windowHandle()->frameMargins() : QMargins();
-  const QRect room = dialog.screen()->availableGeometry().marginsRemoved(frame);
-  KeepBrokenLines(dialog, box.Text, room.width());
+  // Nobody knows its frame before the window manager has drawn it: the style's own is about as
+  // wide.
+  const int frame = dialog.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
+  KeepBrokenLines(dialog, box.Text, dialog.screen()->availableGeometry().width() - 2 * frame);
   dialog.exec();
 }

@@ -1,7 +1,7 @@
 """Plays one case in a real window: real_window_test.py PROGRAM CASE. Bare, it lists the cases."""
 import glob, os, pathlib, subprocess, sys, time
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
-from real_window import DOWN, START, UP, Game, until
+from real_window import BOARD, DOWN, START, UP, Game, Screen, until
 
 NOON = {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketime.so.1", "FAKETIME": "2024-01-01 12:00:00",
         "FAKETIME_DONT_FAKE_MONOTONIC": "1"}  # begun then, a game soon offers a double jump
@@ -61,9 +61,14 @@ def drags(game):
     game.start("xev", "-geometry", "200x200+0+0")
     other = until("another window", lambda: game.window("Event Tester"))[0]
     menu_bar, outside = (game.left + 30, game.top - 10), (100, 400)
-    for way in ([menu_bar, UP], [outside, UP], ["key Escape"], ["key ctrl+n"],
-                ["mousedown 3 mouseup 3"], ["key alt key Down key Escape key Escape"],
-                [f"windowactivate {other}"], [f"windowfocus {other}"]):
+    file_menu = game.left + 20, game.top - 8
+    for before, *way in ([[], menu_bar, UP], [[], outside, UP], [[], "key Escape"],
+                         [[file_menu, "click 1 key Escape"], "key Escape"],
+                         [["key alt key Escape"], "key Escape"], [[], "key ctrl+n"],
+                         [[], "mousedown 3 mouseup 3"],
+                         [[], "key alt key Down key Escape key Escape"],
+                         [[], f"windowactivate {other}"], [[], f"windowfocus {other}"]):
+        game.do(*before)
         game.do(10, DOWN, 14)
         until("the outline", lambda: game.picture() != game.at_rest)
         game.do(*way)
@@ -72,6 +77,16 @@ def drags(game):
         game.move(9, 13)
         until(f"one move after {way}", lambda: game.board() == START[:8] + ".bbbb" + START[13:])
         new_game(game)
+
+
+def small_screen(game):
+    """All is in reach, the box included, and the pointer hits what it sees: a turn of each side."""
+    width, height, _ = map(int, game.size.split("x"))
+    for title in " Velmoran", "Velmoran Game Controls":
+        _, left, top, *size = game.window(title)
+        assert left > 0 and top > 9 and left + size[0] < width and top + size[1] < height, title
+    assert game.side < BOARD * float(game.env["QT_SCALE_FACTOR"])
+    game.play_to("last_blink")
 
 
 def double_jump(game, *path):
@@ -107,28 +122,37 @@ def display_lost(game):
 
 
 def no_display(game):
-    for display in {}, {"DISPLAY": ":987654"}:
-        done = subprocess.run(sys.argv[1:2], env=display, capture_output=True, text=True, timeout=8)
+    poor = Screen("640x480x8")
+    for env, reason in (({}, "connect"), ({"DISPLAY": ":987654"}, ":987654"),
+                        ({"QT_QPA_PLATFORM": "nonsense"}, '"nonsense"'), (poor.env, "8 bits")):
+        done = subprocess.run(sys.argv[1:2], env=env, capture_output=True, text=True, timeout=8)
         assert done.returncode == 1 and done.stderr.count("\n") == 1 and not done.stdout, done
+        assert reason in done.stderr, done
+    poor.server.terminate()
 
 
-CASES = {  # the stage to play to, and what happens then
-    "no_display": ("splash", no_display), "whole": ("splash", whole), "rest": ("blink", rest),
-    "drags": ("turn", drags), "help_holds_the_turn": ("blink", help_holds_the_turn),
-    "double_jump": ("turn", double_jump, 5, 14, 23),
-    "double_jump_in_a_leap": ("turn", double_jump, 5, 23)}
+CASES = {  # the stage to play to, what happens then, and what the game is started with
+    "no_display": ("splash", no_display, {}), "whole": ("splash", whole, {}),
+    "rest": ("blink", rest, {}), "help_holds_the_turn": ("blink", help_holds_the_turn, {}),
+    "double_jump": ("turn", lambda game: double_jump(game, 5, 14, 23), NOON),
+    "double_jump_in_a_leap": ("turn", lambda game: double_jump(game, 5, 23), NOON)}
+for scale in "1", "1.5", "2":
+    CASES[f"drags_at_{scale}"] = "turn", drags, {"QT_SCALE_FACTOR": scale}
+for size, scale in ("1280x720", "1.5"), ("400x400", "1"):
+    more = {"QT_SCALE_FACTOR": scale, "size": size + "x24"}
+    CASES[f"small_screen_{size}"] = "help", small_screen, more
 for stage, act in (("splash", closed), ("turn", exited_by_menu), ("drag", exited), ("drag", closed),
                    ("pause", exited), ("blink", closed), ("last_blink", exited),
-                   ("help", display_lost), ("blink", display_lost)):
-    CASES[f"{act.__name__}_at_{stage}"] = stage, act
+                   ("splash", display_lost), ("help", display_lost), ("blink", display_lost)):
+    CASES[f"{act.__name__}_at_{stage}"] = stage, act, {}
 
 
 def play(program, name):
-    stage, act, *more = CASES[name]
-    game = Game(program, **(NOON if act == double_jump else {}))
+    stage, act, more = CASES[name]
+    game = Game(program, **more)
     try:
         game.play_to(stage)
-        act(game, *more)
+        act(game)
         if game.process.poll() is None:
             closed(game)
     except BaseException:

@@ -2,7 +2,7 @@
 from the memory of the screen, what he does is done by xdotool, and nothing sleeps for a state."""
 import mmap, os, re, struct, subprocess, tempfile, time
 
-BOARD, CELL = 520, 65
+BOARD = 520
 BLACK, BLUE, GREEN = (0, 0, 0), (36, 1, 254), (36, 255, 2)
 PIECES = {(BLACK, BLACK): ".", (BLACK, BLUE): "b", (BLACK, GREEN): "g", (GREEN, BLACK): "*"}
 START = "b" * 12 + "." * 8 + "g" * 12
@@ -19,7 +19,8 @@ def until(what, probe, seconds=8):
 
 
 class Screen:
-    def __init__(self):
+    def __init__(self, size="1600x1200x24"):
+        self.size = size
         self.folder = tempfile.TemporaryDirectory()
         # Nothing of the desktop that the tests run on may shine through. Leaks are Qt's, not ours.
         self.env = {"PATH": os.environ["PATH"], "HOME": self.folder.name, "TZ": "UTC",
@@ -27,7 +28,7 @@ class Screen:
         number, told = os.pipe()
         self.server = self.start(
             "Xvfb", "-displayfd", str(told), "-fbdir", self.folder.name, "-screen", "0",
-            "1600x800x24", "-nocursor", "-noreset", pass_fds=[told])
+            size, "-nocursor", "-noreset", pass_fds=[told])
         os.close(told)
         with open(number) as line:
             self.env["DISPLAY"] = ":" + line.readline().strip()
@@ -48,12 +49,12 @@ class Screen:
     def run(self, *command):
         return subprocess.run(command, env=self.env, capture_output=True, text=True).stdout
 
-    def window(self, title, width=None):
+    def window(self, title, is_splash=None):
         """A visible window of this title: its name, left, top, width and height."""
         for name in self.run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split():
             told = self.run("xwininfo", "-id", name)
             place = re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", told)
-            if place and width in (None, int(place[2])):
+            if place and is_splash in (None, int(place[2]) > 2 * int(place[3])):
                 return name, *map(int, place)
 
     def rows(self, left, top, width, height):
@@ -67,8 +68,8 @@ class Screen:
 
 
 class Game(Screen):
-    def __init__(self, program, **env):
-        super().__init__()
+    def __init__(self, program, size="1600x1200x24", **env):
+        super().__init__(size)
         self.env.update(env)
         self.errors = tempfile.TemporaryFile("w+")
         self.process = self.start(program, stderr=self.errors)
@@ -76,16 +77,15 @@ class Game(Screen):
 
     def stages(self):
         """Plays from the start to the end of the computer's first turn, and tells each stage."""
-        self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran", 516))
+        self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran", True))
         yield "splash"
-        main = until("the main window", lambda: self.window(" Velmoran", BOARD))
-        self.name, self.left, self.top = *main[:2], main[2] + main[4] - BOARD  # below the menu bar
-        self.client_area = self.left, self.top, BOARD, BOARD
+        until("the main window", lambda: self.window(" Velmoran", False))
         until("the help", lambda: self.window("Velmoran Game Controls"))
+        self.measure()
         yield "help"
         self.do("key Return")
         until("the start position, with no grey left of the help", lambda:
-              self.board() == START and max(map(min, self.colours(*self.client_area))) < 3)
+              self.board() == START and max(map(min, self.colours(*self.inside))) < 3)
         self.at_rest = self.picture()
         yield "turn"
         self.do(10, DOWN, 14)
@@ -103,17 +103,28 @@ class Game(Screen):
         assert changed == ["*.", ".g"], (moved, board)
         yield "last_blink"
 
+    def measure(self):
+        """Finds the board, which stands below the menu bar and may be larger or smaller than 520."""
+        self.name, self.left, top, self.side, height = self.window(" Velmoran", False)
+        self.top = top + height - self.side
+        self.client_area = self.left, self.top, self.side, self.side
+        # Without the outermost pixels: at a fractional ratio they may be mixed with the menu bar.
+        self.inside = self.left + 1, self.top + 1, self.side - 2, self.side - 2
+
     def play_to(self, wanted):
         while next(self.script) != wanted:
             pass
 
-    def middle(self, square):
+    def middle(self, square, right=0, down=0):
+        """The point in the middle of a square, or so many pixels of the form beside it."""
         row, place = divmod(square - 1, 4)
-        return self.left + CELL * (2 * place + row % 2) + 32, self.top + CELL * (7 - row) + 32
+        scale = self.side / BOARD
+        return (int(self.left + (65 * (2 * place + row % 2) + 32.5 + right) * scale),
+                int(self.top + (65 * (7 - row) + 32.5 + down) * scale))
 
     def piece(self, square):
-        x, y = self.middle(square)
-        ground, disc = self.colours(x - 30, y - 30).pop(), self.colours(x, y - 26).pop()
+        ground = self.colours(*self.middle(square, -30, -30)).pop()
+        disc = self.colours(*self.middle(square, 0, -26)).pop()
         return PIECES.get((ground, disc), "?")
 
     def board(self):
