@@ -25,6 +25,9 @@ class Screen:
         # Nothing of the desktop that the tests run on may shine through. Leaks are Qt's, not ours.
         self.env = {"PATH": os.environ["PATH"], "HOME": self.folder.name, "TZ": "UTC",
                     "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
+        self.open()
+
+    def open(self):
         number, told = os.pipe()
         self.server = self.start(
             "Xvfb", "-displayfd", str(told), "-fbdir", self.folder.name, "-screen", "0",
