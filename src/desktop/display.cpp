@@ -33,6 +33,8 @@ void KeepReason(QtMsgType type, const QMessageLogContext&, const QString& messag
 
 void TellOthers(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (message.contains("connection broke")) TellLost();
+  // Qt 6.8 says so of its windows on Wayland at scales like 1.5, and has just set it straight.
+  if (message.contains("device pixel ratio value was stale")) return;
   std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
