@@ -5,7 +5,7 @@
 #include "computer/ranking.h"
 #include "support/board.h"
 #include "support/desk.h"
-#include "support/player.h"
+#include "support/rules.h"
 
 namespace {
 
@@ -53,7 +53,8 @@ void PlayWholeGame(benchmark::State& state) {
     desk.host.Midnight = static_cast<double>(state.iterations());
     desk.OpenBoard();
     while (!desk.form.position.GameOver) {
-      PlayTurn(desk, RandomDrag(desk.form.position, hand));
+      const std::vector<Move> moves = BlueMoves(desk.form.position);
+      desk.PlayTurn(moves[static_cast<std::size_t>(hand.Draw(static_cast<int>(moves.size())))]);
       ++turns;
     }
   }

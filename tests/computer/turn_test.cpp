@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "support/player.h"
+#include "support/desk.h"
 
 namespace {
 
@@ -60,7 +60,7 @@ TEST(ComputerTurn, ShowsEachStageWithABlink) {
 TEST(ComputerTurn, DrawsForTheShuffleAndAtTheEndOfEachBlink) {
   Desk desk(Board("..g. .... .... .... .... .b.. .... ...."));
   const std::int64_t before = desk.toolkit.random.DrawCount;
-  PlayTurn(desk, {10, 14});
+  desk.PlayTurn({10, 14});
   // Blue has both its steps open: one draw at the drop, one at each blink. Green has two moves.
   EXPECT_EQ(desk.toolkit.random.DrawCount - before, 1 + 2 + 2);
 }

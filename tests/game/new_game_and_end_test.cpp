@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "support/player.h"
+#include "support/desk.h"
 
 namespace {
 
@@ -20,13 +20,13 @@ TEST(NewGame, ComesAtAnyMomentOfATurn) {
         desk.Choose("mnuGame");
         if (isDragQueuedToo) desk.Drag({9, 13});
       });
-      PlayTurn(desk, {20, 24});
+      desk.PlayTurn({20, 24});
       if (!isDragQueuedToo) {
         Position expected = StartPosition();
         expected.NewGameRequested = true;  // until the next drag
         ASSERT_EQ(position, expected) << when.count();
         EXPECT_FALSE(desk.form.tmrPause.Enabled || desk.form.tmrBlink.Enabled);
-        PlayTurn(desk, {9, 13});
+        desk.PlayTurn({9, 13});
       }
       EXPECT_EQ(position.BlueSquare[9], 13) << when.count();
       EXPECT_NE(position.GreenSquare, StartPosition().GreenSquare) << when.count();
@@ -79,7 +79,7 @@ TEST(GameEnd, IsAnnouncedAndLeftByNewGame) {
     desk.host.BoxTime = 3s;
     desk.AfterEvent = [&] { ASSERT_TRUE(IsConsistent(desk.form)); };
     const Instant start = desk.host.Now();
-    PlayTurn(desk, drag);
+    desk.PlayTurn(drag);
     ASSERT_EQ(desk.host.Boxes.size(), 1) << text;
     const VirtualHost::ShownBox& box = desk.host.Boxes[0];
     EXPECT_EQ(box.Text, text);
@@ -89,10 +89,10 @@ TEST(GameEnd, IsAnnouncedAndLeftByNewGame) {
     EXPECT_EQ(position.BlueToMove, at == 2500ms) << text;
     EXPECT_TRUE(position.GameOver);
     const std::string board = Draw(position);
-    for (int square = 1; square <= Squares; ++square) PlayTurn(desk, {square, 17, 18, 19, 20});
+    for (int square = 1; square <= Squares; ++square) desk.PlayTurn({square, 17, 18, 19, 20});
     EXPECT_EQ(Draw(position), board) << text << " nothing reacts any more";
     desk.Choose("mnuGame");
-    PlayTurn(desk, {9, 13});
+    desk.PlayTurn({9, 13});
     EXPECT_EQ(position.BlueSquare[9], 13) << text;
     EXPECT_NE(position.GreenSquare, StartPosition().GreenSquare) << text;
     EXPECT_EQ(desk.host.Boxes.size(), 1) << text;
@@ -106,7 +106,7 @@ TEST(Exit, EndsTheProgramInTheMiddleOfABlink) {
       if (isMenu) return desk.Choose("mnuExit");
       desk.Pointer(InputEvent::Kind::Close, {});
     });
-    EXPECT_THROW(PlayTurn(desk, {20, 24}), ProgramEnded);
+    EXPECT_THROW(desk.PlayTurn({20, 24}), ProgramEnded);
   }
 }
 

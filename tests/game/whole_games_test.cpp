@@ -4,7 +4,8 @@
 #include <fstream>
 #include <sstream>
 
-#include "support/player.h"
+#include "support/desk.h"
+#include "support/rules.h"
 
 namespace {
 
@@ -23,8 +24,9 @@ std::string TellGame(unsigned seed) {
   std::ostringstream told;
   told << "game " << seed << '\n';
   while (!desk.form.position.GameOver) {
-    const std::vector<int> drag = RandomDrag(desk.form.position, hand);
-    PlayTurn(desk, drag);
+    const std::vector<Move> moves = BlueMoves(desk.form.position);
+    const Move& drag = moves[static_cast<std::size_t>(hand.Draw(static_cast<int>(moves.size())))];
+    desk.PlayTurn(drag);
     for (const int square : drag) told << square << ' ';
     told << "| " << Draw(desk.form.position) << " | " << random.DrawCount << '\n';
   }

@@ -1,6 +1,5 @@
 #include "support/board.h"
 
-#include <algorithm>
 #include <ostream>
 #include <stdexcept>
 
@@ -36,22 +35,22 @@ Position Board(std::string_view picture) {
 
 Position StartPosition() { return Board("gggg gggg gggg .... .... bbbb bbbb bbbb"); }
 
-std::string Draw(const Position& position) {
-  std::string marks(Squares, '.');
+std::string Marks(const Position& position) {
+  std::string marks = ' ' + std::string(Squares, '.');
   for (int piece = 1; piece <= Pieces; ++piece) {
     const Square blue = position.BlueSquare[piece];
     const Square green = position.GreenSquare[piece];
-    if (blue != 0) marks[PlaceOf(blue)] = position.BlueKing[piece] ? 'B' : 'b';
-    if (green != 0) marks[PlaceOf(green)] = position.GreenKing[piece] ? 'G' : 'g';
+    if (blue != 0) marks[std::size_t(blue)] = position.BlueKing[piece] ? 'B' : 'b';
+    if (green != 0) marks[std::size_t(green)] = position.GreenKing[piece] ? 'G' : 'g';
   }
-  for (std::size_t row = 7; row > 0; --row) marks.insert(row * 4, 1, ' ');
   return marks;
 }
 
-int GreenOn(const Position& position, Square square) {
-  const auto place = std::ranges::find(position.GreenSquare, square);
-  if (square == 0 || place == position.GreenSquare.end()) return 0;
-  return static_cast<int>(place - position.GreenSquare.begin()) + 1;
+std::string Draw(const Position& position) {
+  const std::string marks = Marks(position);
+  std::string rows;
+  for (std::size_t first = 29; first > 1; first -= 4) rows += marks.substr(first, 4) + ' ';
+  return rows + marks.substr(1, 4);
 }
 
 void PrintTo(const Position& position, std::ostream* out) {

@@ -14,11 +14,11 @@ Position Board(std::string_view picture);
 /// Where every game begins.
 Position StartPosition();
 
+/// What stands on each square, 1 to 32, in the letters of a picture; at place 0 a blank.
+std::string Marks(const Position& position);
+
 /// The picture of a position on one line: `Board` reads it.
 std::string Draw(const Position& position);
-
-/// The green piece on a square; 0 if there is none.
-int GreenOn(const Position& position, Square square);
 
 /// How a failed test shows a position.
 void PrintTo(const Position& position, std::ostream* out);

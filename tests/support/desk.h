@@ -29,6 +29,12 @@ class Desk {
   /// each, let go on the last.
   void Drag(const std::vector<int>& squares);
 
+  /// Makes one drag and lets the computer answer.
+  void PlayTurn(const std::vector<int>& squares) {
+    Drag(squares);
+    RunUntilQuiet();
+  }
+
   void Press(int square) { Pointer(InputEvent::Kind::Press, Middle(square)); }
   void Move(int square) { Pointer(InputEvent::Kind::Move, Middle(square)); }
   void Release(int square) { Pointer(InputEvent::Kind::Release, Middle(square)); }

@@ -1,0 +1,121 @@
+#include "support/rules.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <string>
+#include <utility>
+
+#include "support/board.h"
+
+namespace {
+
+/// A row and a column step.
+struct Way {
+  int Rows, Columns;
+};
+
+constexpr Way Ways[] = {{1, -1}, {1, 1}, {-1, -1}, {-1, 1}};
+
+int RowOf(int square) { return (square - 1) / 4; }
+
+/// The square one way along; 0 off the board, and from 0.
+int Go(int square, Way way) {
+  const int row = RowOf(square) + way.Rows;
+  const int column = (square - 1) % 4 * 2 + RowOf(square) % 2 + way.Columns;
+  const bool isOnBoard = 0 <= row && row < 8 && 0 <= column && column < 8;
+  return square != 0 && isOnBoard ? row * 4 + column / 2 + 1 : 0;
+}
+
+bool MayGo(char piece, Way way) {
+  return (piece != 'b' || way.Rows > 0) && (piece != 'g' || way.Rows < 0);
+}
+
+void AddSteps(const std::string& marks, int from, std::vector<Move>& moves) {
+  for (const Way way : Ways) {
+    const int to = Go(from, way);
+    if (MayGo(marks[std::size_t(from)], way) && marks[std::size_t(to)] == '.') {
+      moves.push_back({from, to});
+    }
+  }
+}
+
+/// Lengthens the move of a piece, which is in the hand, by each jump; a blue one then jumps on.
+void AddJumps(const std::string& marks, char piece, const Move& move, std::vector<Move>& moves) {
+  const bool isBlue = piece == 'b' || piece == 'B';
+  const char* const prey = isBlue ? "gG" : "bB";
+  for (const Way way : Ways) {
+    const int over = Go(move.back(), way);
+    const int to = Go(over, way);
+    const char jumped = marks[std::size_t(over)];
+    const bool isPrey = jumped == prey[0] || jumped == prey[1];
+    if (!MayGo(piece, way) || !isPrey || marks[std::size_t(to)] != '.') continue;
+    Move& longer = moves.emplace_back(move);
+    longer.push_back(to);
+    if (!isBlue) continue;
+    std::string onward = marks;
+    onward[std::size_t(over)] = 'x';  // it still blocks, but is no prey again
+    AddJumps(onward, piece, Move(longer), moves);
+  }
+}
+
+void AddJumpsOf(std::string marks, int from, std::vector<Move>& moves) {
+  const char piece = std::exchange(marks[std::size_t(from)], '.');
+  AddJumps(marks, piece, {from}, moves);
+}
+
+}  // namespace
+
+bool IsJump(const Move& move) { return std::abs(RowOf(move[1]) - RowOf(move[0])) != 1; }
+
+std::vector<Move> BlueMoves(const Position& position) {
+  const std::string marks = Marks(position);
+  std::vector<Move> moves;
+  for (const int from : position.BlueSquare) {
+    if (from != 0) AddJumpsOf(marks, from, moves);
+  }
+  if (!moves.empty()) return moves;
+  for (const int from : position.BlueSquare) {
+    if (from != 0) AddSteps(marks, from, moves);
+  }
+  return moves;
+}
+
+std::vector<Move> GreenHops(const Position& position) {
+  const std::string marks = Marks(position);
+  std::vector<Move> moves;
+  for (const int from : position.GreenSquare) {
+    if (from == 0) continue;
+    AddSteps(marks, from, moves);
+    AddJumpsOf(marks, from, moves);
+  }
+  return moves;
+}
+
+Position After(Position position, const Move& move) {
+  const auto replace = [&](int old, int now) {
+    std::ranges::replace(position.BlueSquare, Square(old), Square(now));
+    std::ranges::replace(position.GreenSquare, Square(old), Square(now));
+  };
+  for (std::size_t k = 1; IsJump(move) && k < move.size(); ++k) {
+    for (const Way way : Ways) {
+      const int over = Go(move[k - 1], way);
+      if (Go(over, way) == move[k]) replace(over, 0);
+    }
+  }
+  replace(move.front(), move.back());
+  return position;
+}
+
+Position Crowned(Position position) {
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    if (position.BlueSquare[piece] > 28) position.BlueKing[piece] = true;
+    const int green = position.GreenSquare[piece];
+    if (0 < green && green < 5) position.GreenKing[piece] = true;
+  }
+  return position;
+}
+
+bool HasSameBoard(const Position& a, const Position& b) {
+  return a.BlueSquare == b.BlueSquare && a.GreenSquare == b.GreenSquare &&
+         a.BlueKing == b.BlueKing && a.GreenKing == b.GreenKing;
+}
