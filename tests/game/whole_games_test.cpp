@@ -1,9 +1,6 @@
-#include <gtest/gtest.h>
+#include <random>
 
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
-
+#include "recorded.h"
 #include "support/desk.h"
 #include "support/rules.h"
 
@@ -14,6 +11,7 @@ namespace {
 std::string TellGame(unsigned seed) {
   Desk desk;
   desk.OpenBoard();
+  const Position& position = desk.form.position;
   Random& random = desk.toolkit.random;
   random.DrawCount = 0;
   random.Script = [engine = std::mt19937(seed)]() mutable {
@@ -23,25 +21,21 @@ std::string TellGame(unsigned seed) {
   hand.Randomize(seed);
   std::ostringstream told;
   told << "game " << seed << '\n';
-  while (!desk.form.position.GameOver) {
-    const std::vector<Move> moves = BlueMoves(desk.form.position);
+  while (!position.GameOver) {
+    const std::vector<Move> moves = BlueMoves(position);
     const Move& drag = moves[static_cast<std::size_t>(hand.Draw(static_cast<int>(moves.size())))];
     desk.PlayTurn(drag);
     for (const int square : drag) told << square << ' ';
-    told << "| " << Draw(desk.form.position) << " | " << random.DrawCount << '\n';
+    told << "| " << Draw(position) << " | " << random.DrawCount << '\n';
   }
   told << desk.host.Boxes[0].Text << '\n';
   return told.str();
 }
 
-/// VELMORAN_RECORD=1 writes the file anew.
 TEST(WholeGames, ArePlayedAsRecorded) {
   std::string games;
   for (unsigned seed = 1; seed <= 20; ++seed) games += TellGame(seed);
-  if (std::getenv("VELMORAN_RECORD")) std::ofstream(VELMORAN_GAMES) << games;
-  std::ostringstream recorded;
-  recorded << std::ifstream(VELMORAN_GAMES).rdbuf();
-  EXPECT_EQ(games, recorded.str());
+  ExpectRecorded("games.txt", games);
 }
 
 }  // namespace

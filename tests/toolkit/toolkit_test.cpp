@@ -7,12 +7,16 @@
 namespace {
 
 using namespace std::chrono_literals;
+using enum InputEvent::Kind;
 using Ticks = std::vector<std::int64_t>;
 
-/// A window with a timer of 200 ms that is on from the start.
+/// A window with an image, a label and a timer of 200 ms that is on from the start.
 class ToolkitTest : public testing::Test {
  protected:
   ToolkitTest() {
+    image.DragMode = 1;
+    form.Width = form.Height = 500;
+    form.Controls = {&image, &label};
     timer.Interval = 200ms;
     timer.Tick = [this] { ticks.push_back(host.Now() / 1ms); };
     form.Timers = {&timer};
@@ -23,7 +27,7 @@ class ToolkitTest : public testing::Test {
 
   void Choose(std::function<void()> action) {
     command.Click = std::move(action);
-    host.Put({.What = InputEvent::Kind::MenuCommand, .Window = &form, .Command = &command});
+    host.Put({.What = MenuCommand, .Window = &form, .Command = &command});
   }
 
   /// From 250 to 750.
@@ -35,9 +39,18 @@ class ToolkitTest : public testing::Test {
     return ticks;
   }
 
+  /// Delivers the input, and tells what is dragged then.
+  const Control* Send(InputEvent::Kind what, Point at = {}) {
+    host.Put({.What = what, .Window = &form, .At = at});
+    toolkit.DoEvents();
+    return host.ShownDrag.Source;
+  }
+
   VirtualHost host;
   Toolkit toolkit{host};
   Form form;
+  Control image = MakeControl(ControlKind::Image, "", {0, 0, 100, 100});
+  Control label = MakeControl(ControlKind::Label, "", {200, 0, 100, 100});
   TimerControl timer;
   MenuItem command;
   Ticks ticks;
@@ -74,53 +87,51 @@ TEST_F(ToolkitTest, TimersNeverTickInTheirOwnHandler) {
   EXPECT_EQ(TicksUntil(850ms), (Ticks{0, 200, 0, 0, 0, 0, -1, 750, -1, 800, -1}));
 }
 
-TEST_F(ToolkitTest, DoEventsDeliversOneEvent) {
-  for (const int number : {1, 2}) Choose([this, number] { ticks.push_back(number); });
-  toolkit.DoEvents();
-  EXPECT_EQ(host.Queue.size(), 1);
+TEST_F(ToolkitTest, DragsStartFollowAndEnd) {
+  const ControlEvents none;
+  image.Events = &none;
+  int cancelled = 0;
+  for (const Point at : {Point{50, 50}, Point{250, 50}, Point{450, 450}, Point{600, 50}}) {
+    EXPECT_EQ(Send(Press, {50, 50}), &image);
+    EXPECT_EQ(Send(Move, at), &image);
+    EXPECT_EQ(host.ShownDrag.Pointer, at);
+    EXPECT_EQ(Send(Release, at), nullptr);
+    EXPECT_EQ(Send(Press, at), at.X == 50 ? &image : nullptr);
+    EXPECT_EQ(Send(CancelDrag), nullptr);
+    form.DragCancelled = [&] { ++cancelled; };
+  }
+  EXPECT_EQ(cancelled, 1) << "outside";
+  for (const Point at : {Point{0, 0}, {499, 499}, {-1, 0}, {0, -1}, {500, 0}, {0, 500}}) {
+    Send(Press, {50, 50});
+    Send(Release, at);
+  }
+  EXPECT_EQ(cancelled, 5) << "outside";
+  EXPECT_EQ(Send(Press, {50, 50}), &image);
+  image.Visible = false;
+  EXPECT_EQ(Send(Move, {60, 50}), nullptr) << "nothing is left to drag";
 }
 
-TEST_F(ToolkitTest, DragsStartFollowAndEndWithAnyHandlers) {
-  const ControlEvents none;
-  Control image = MakeControl(ControlKind::Image, "", {0, 0, 100, 100});
-  Control label = MakeControl(ControlKind::Label, "", {200, 0, 100, 100});
-  image.DragMode = 1;
-  image.Events = &none;
-  form.Width = form.Height = 500;
-  form.Controls = {&image, &label};
-  const auto send = [this](InputEvent::Kind what, Point at = {}) {
-    host.Put({.What = what, .Window = &form, .At = at});
-    toolkit.DoEvents();
-    return host.ShownDrag.Source;
+TEST_F(ToolkitTest, ClicksArePressedAndReleasedOnOneControl) {
+  const ControlEvents events{.Click = [this](int index) { ticks.push_back(index); }};
+  label.Events = image.Events = &events;
+  form.Events = events;
+  label.Index = 7;
+  constexpr Point Label{250, 50}, Bare{450, 450}, Image{50, 50}, Outside{600, 50};
+  const auto clicks = [&](std::initializer_list<Point> points) {
+    for (const Point& point : points) Send(&point == points.begin() ? Press : Release, point);
+    return std::exchange(ticks, {});
   };
-  using enum InputEvent::Kind;
-  for (const Point at : {Point{50, 50}, Point{250, 50}, Point{450, 450}, Point{600, 50}}) {
-    EXPECT_EQ(send(Press, {50, 50}), &image);
-    EXPECT_EQ(send(Move, at), &image);
-    EXPECT_EQ(host.ShownDrag.Pointer, at);
-    EXPECT_EQ(send(Release, at), nullptr);
-    EXPECT_EQ(send(Press, at), at.X == 50 ? &image : nullptr);
-    EXPECT_EQ(send(CancelDrag), nullptr);
-    EXPECT_EQ(send(Release, at), nullptr);
+  EXPECT_EQ(clicks({Label, Label, Label}), Ticks{7}) << "the second release is none";
+  EXPECT_EQ(clicks({Bare, Bare}), Ticks{0});
+  for (const auto& points : {std::array{Label, Bare},
+                             {Bare, Label},
+                             {Image, Image},
+                             {Image, Label},
+                             {Outside, Outside},
+                             {Outside, Bare},
+                             {Bare, Outside}}) {
+    EXPECT_EQ(clicks({points[0], points[1]}), Ticks{}) << points[0].X << " to " << points[1].X;
   }
-  int cancelled = 0;
-  form.DragCancelled = [&] { ++cancelled; };
-  const auto dropAt = [&](Point at) {
-    send(Press, {50, 50});
-    send(Release, at);
-    return cancelled;
-  };
-  EXPECT_EQ(dropAt({0, 0}) + dropAt({499, 499}), 0) << "still inside";
-  for (const Point outside : {Point{-1, 0}, {0, -1}, {500, 0}, {0, 500}}) {
-    const int before = cancelled;
-    EXPECT_EQ(dropAt(outside), before + 1);
-  }
-  EXPECT_EQ(send(Press, {50, 50}), &image);
-  image.Visible = false;
-  EXPECT_EQ(send(Move, {60, 50}), nullptr) << "nothing is left to drag";
-  Choose({});
-  toolkit.DoEvents();
-  EXPECT_TRUE(host.Queue.empty());
 }
 
 TEST_F(ToolkitTest, FormsComeToTheFrontAndGo) {
@@ -130,14 +141,15 @@ TEST_F(ToolkitTest, FormsComeToTheFrontAndGo) {
   toolkit.DoEvents();
   EXPECT_EQ(host.Forms, (std::vector{&form, &other}));
   form.Unload = [this] { ticks.push_back(timer.Enabled); };
-  host.Put({.What = InputEvent::Kind::Close, .Window = &form});
+  host.Put({.What = Close, .Window = &form});
   Choose([&] { ADD_FAILURE() << "of a window that has gone"; });
   toolkit.DoEvents();
+  EXPECT_EQ(host.Queue.size(), 1) << "one event at a time";
   toolkit.DoEvents();
   EXPECT_EQ(host.Forms, std::vector{&other});
   EXPECT_EQ(ticks, Ticks{1});
   EXPECT_FALSE(timer.Enabled || form.Visible);
-  host.Put({.What = InputEvent::Kind::Close, .Window = &other});
+  host.Put({.What = Close, .Window = &other});
   EXPECT_THROW(toolkit.DoEvents(), ProgramEnded);
 }
 
