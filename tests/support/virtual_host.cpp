@@ -12,6 +12,7 @@ void VirtualHost::WaitForInput(std::optional<Instant> until) {
 
 void VirtualHost::ShowMessageBox(const MessageBox& box) {
   Boxes.push_back({box, now});
+  if (OnBox) OnBox(box);
   IsBoxOpen = true;
   const Instant closing = now + BoxTime;
   while (RunBooked(closing)) {

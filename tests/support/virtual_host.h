@@ -43,8 +43,9 @@ class VirtualHost : public Host {
   double Midnight = 0;  // the time of day at instant 0, in seconds: it seeds the games
 
   bool IsBoxOpen = false;
-  std::function<void()> OnShow;  // the screen is brought up to date
-  std::vector<Form*> Forms;      // as last shown, the frontmost first
+  std::function<void()> OnShow;                  // the screen is brought up to date
+  std::function<void(const MessageBox&)> OnBox;  // a box opens
+  std::vector<Form*> Forms;                      // as last shown, the frontmost first
   Drag ShownDrag;
 
  private:

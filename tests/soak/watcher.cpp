@@ -1,0 +1,153 @@
+#include "soak/watcher.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int MostEvents = 100'000;  // far above any turn: who gets there turns in a circle
+
+bool HasPiece(const Table<Square, Pieces>& squares) {
+  return std::ranges::any_of(squares, [](Square square) { return square != 0; });
+}
+
+bool HasJump(const std::vector<Move>& moves) { return std::ranges::any_of(moves, IsJump); }
+
+/// How a game must end that ends now; empty if it must not.
+std::string EndOf(const Position& position) {
+  if (!HasPiece(position.BlueSquare)) return "Blue has been captured!  YOU LOSE!!!";
+  if (!HasPiece(position.GreenSquare)) return "Green has been captured!  YOU WIN!!!";
+  if (position.BlueToMove) {
+    return BlueMoves(position).empty() ? "Blue cannot move!  YOU LOSE!!!" : "";
+  }
+  return GreenHops(position).empty() ? "Green cannot move!  YOU WIN!!!" : "";
+}
+
+}  // namespace
+
+void Demand(bool isTrue, const char* what) {
+  if (!isTrue) throw Fault(what);
+}
+
+Watcher::Watcher(Desk& watchedDesk) : desk(watchedDesk), last(StartPosition()) {
+  desk.AfterEvent = [this] { CheckEvent(); };
+  desk.host.OnBox = [this](const MessageBox& box) { CheckBox(box); };
+}
+
+bool Watcher::IsHumansTurn() const {
+  const Position& position = desk.form.position;
+  return desk.form.window.Visible && position.BlueToMove && !position.GameOver &&
+         desk.form.imgBlueChecker[1].DragMode == 1;
+}
+
+void Watcher::Deal(const Position& position) {
+  PlacePosition(desk.form, position);
+  last = position;
+}
+
+void Watcher::CheckEvent() {
+  Demand(++Events - lastRest < MostEvents, "the turn has no end");
+  if (!desk.form.window.Visible) return;
+  if (Log) Tell();
+  Demand(IsConsistent(desk.form), "the tables and the pictures disagree");
+  CheckBoard();
+  Demand(desk.form.position.GameOver == isAnnounced, "a game is over from its announcement on");
+  CheckDrag();
+  last = desk.form.position;
+  wasHumansTurn = IsHumansTurn();
+  lastDrag = desk.host.ShownDrag;
+}
+
+/// Every change of the board is a legal move of the side whose turn it is, or a new game.
+void Watcher::CheckBoard() {
+  const Position& now = desk.form.position;
+  const bool isTurnOver = now.BlueToMove != last.BlueToMove;
+  if (now.NewGameRequested && !last.NewGameRequested) {
+    Demand(HasSameBoard(now, StartPosition()), "a new game begins from the start position");
+    isAnnounced = false;
+    chain = 0;
+  } else if (HasSameBoard(now, last)) {
+    Demand(!isTurnOver, "a turn ends with a move");
+  } else if (last.BlueToMove && isTurnOver) {
+    ++Moves;
+    const auto isThis = [&](const Move& move) {
+      return HasSameBoard(now, Crowned(After(last, move)));
+    };
+    Demand(std::ranges::any_of(BlueMoves(last), isThis), "the human's move is against the rules");
+    chain = 0;
+  } else if (last.BlueToMove) {
+    Demand(HasSameBoard(now, Crowned(last)) && !wasHumansTurn, "the board changes out of turn");
+  } else {
+    CheckGreenHop();
+  }
+}
+
+void Watcher::CheckGreenHop() {
+  const Position& now = desk.form.position;
+  const std::vector<Move> hops = GreenHops(last);
+  const auto hop = std::ranges::find_if(
+      hops, [&](const Move& move) { return HasSameBoard(now, After(last, move)); });
+  Demand(hop != hops.end(), "green's move is against the rules");
+  Demand(IsJump(*hop) || !HasJump(hops), "green takes where it can");
+  Demand(chain == 0 || (chain == hop->front() && IsJump(*hop)), "green goes on with its piece");
+  chain = hop->back();
+  const bool canJumpOn = std::ranges::any_of(GreenHops(now), [&](const Move& next) {
+    return IsJump(*hop) && next.front() == chain && IsJump(next);
+  });
+  Demand(canJumpOn != now.BlueToMove, "green jumps on for as long as it can");
+}
+
+void Watcher::CheckDrag() const {
+  const bool isPath = desk.form.position.JumpPath[1] != 0;
+  Demand(!isPath || IsHumansTurn(), "a path outlives the human's turn");
+  const Drag& drag = desk.host.ShownDrag;
+  if (!drag.Source) return;
+  Demand(IsHumansTurn() && drag.Source->Visible && drag.Source->Name == "imgBlueChecker",
+         "nobody may drag this");
+  const bool isNew = drag.Source != lastDrag.Source || drag.Start != lastDrag.Start;
+  Demand(!isNew || !isPath, "a drag inherits a path");
+}
+
+void Watcher::CheckBox(const MessageBox& box) {
+  if (Log) std::fprintf(Log, "             box \"%s\": %s\n", box.Title.c_str(), box.Text.c_str());
+  const Position& position = desk.form.position;
+  Demand(!desk.host.ShownDrag.Source, "a message box leaves no drag");
+  if (box.Title == "Game Over") {
+    Demand(!std::exchange(isAnnounced, true), "the end of a game is announced once");
+    Demand(box.Text == EndOf(position) && box.Icon == MessageIcon::Stop, "an end that is none");
+  } else if (box.Title == "Capture Required") {
+    Demand(IsHumansTurn() && HasJump(BlueMoves(position)), "no capture is required");
+  } else {
+    Demand(box.Icon == MessageIcon::Information, "nobody asked for this box");
+  }
+}
+
+void Watcher::CheckRest() {
+  const Position& position = desk.form.position;
+  const auto isDragMode = [&](int mode) {
+    return std::ranges::all_of(desk.form.imgBlueChecker,
+                               [&](const Control& image) { return image.DragMode == mode; });
+  };
+  Demand(HasSameBoard(position, Crowned(position)), "whoever gets to the far row is crowned");
+  Demand(!desk.form.BlinkStarted, "a blink outlives its turn");
+  if (position.GameOver) {
+    Demand(isDragMode(0) || !HasPiece(position.BlueSquare), "no piece moves after the end");
+  } else {
+    Demand(position.BlueToMove && isDragMode(1) && EndOf(position).empty(), "the game is stuck");
+  }
+  lastRest = Events;
+  desk.host.Boxes.clear();
+}
+
+/// The board after an event, ticks that change nothing left out.
+void Watcher::Tell() const {
+  const Position& position = desk.form.position;
+  if (position == last && desk.host.ShownDrag.Pointer == lastDrag.Pointer) return;
+  std::string path;
+  for (const Square square : position.JumpPath) {
+    if (square != 0) path += ' ' + std::to_string(square);
+  }
+  std::fprintf(Log, "%8lld ms  %s %s%s%s path%s\n",
+               static_cast<long long>(desk.host.Now().count() / 1000), Draw(position).c_str(),
+               position.BlueToMove ? "blue" : "green", position.GameOver ? " over" : "",
+               desk.host.ShownDrag.Source ? " drag" : "", path.c_str());
+}
