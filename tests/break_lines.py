@@ -87,7 +87,7 @@ def limit_memory():
 
 
 class Bench:
-    """The scratch copy, its build and its tests, the quickest first."""
+    """The scratch copy, its build and its tests, the quickest to build first."""
 
     def __init__(self, folder, games):
         self.root, self.build = folder / "source", folder / "build"
@@ -95,8 +95,8 @@ class Bench:
         archive = subprocess.run(["git", "archive", "HEAD"], cwd=ROOT, check=True,
                                  stdout=subprocess.PIPE)
         subprocess.run(["tar", "-x", "-C", self.root], input=archive.stdout, check=True)
-        self.commands = [["velmoran_tests", "--gtest_brief=1", "--gtest_fail_fast"],
-                         ["soak/soak", "--games", str(games)]]
+        self.commands = [["tests/soak/soak", "--games", str(games)],
+                         ["tests/velmoran_tests", "--gtest_brief=1", "--gtest_fail_fast"]]
         subprocess.run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja",
                         "-DVELMORAN_DESKTOP=OFF", "-DVELMORAN_TESTS=ON", "-DCMAKE_BUILD_TYPE=None",
                         "-DCMAKE_CXX_FLAGS=-O1 -w"], check=True, stdout=subprocess.DEVNULL)
@@ -106,17 +106,16 @@ class Bench:
 
     def outcome(self):
         quiet = {"cwd": self.build, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
-        if subprocess.run(["ninja", "-j1", "velmoran_tests", "soak"], **quiet).returncode != 0:
-            return "does not compile"
-        for command in self.commands:
-            program = self.build / "tests" / command[0]
+        for name, *arguments in self.commands:
+            if subprocess.run(["ninja", "-j1", name], **quiet).returncode != 0:
+                return "does not compile"
             try:
-                done = subprocess.run([program, *command[1:]], timeout=LIMIT,
+                done = subprocess.run([self.build / name, *arguments], timeout=LIMIT,
                                       preexec_fn=limit_memory, **quiet)
             except subprocess.TimeoutExpired:
-                return f"killed by {program.name} (time)"
+                return f"killed by {name} (time)"
             if done.returncode != 0:
-                return f"killed by {program.name}"
+                return f"killed by {name}"
         return "SURVIVED"
 
     def outcome_of(self, path, k, old, new):

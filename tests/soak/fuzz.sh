@@ -10,5 +10,5 @@ cmake -S . -B "$build" -D CMAKE_CXX_COMPILER="${CXX:-clang++}" -D CMAKE_BUILD_TY
   -D VELMORAN_DESKTOP=OFF -D VELMORAN_TESTS=ON -D VELMORAN_FUZZ=ON >/dev/null
 cmake --build "$build" --target fuzz
 mkdir -p "$build/corpus"
-exec "$build/tests/soak/fuzz" "$build/corpus" tests/soak/corpus -max_total_time="${1:-60}" -max_len=300 \
+exec "$build/tests/soak/fuzz" "$build/corpus" tests/soak/corpus -max_total_time="${1:-60}" -max_len=1000 \
   -timeout=10 -entropic=0 -print_final_stats=1 -artifact_prefix="$build/"

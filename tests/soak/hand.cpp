@@ -8,7 +8,7 @@ using namespace std::chrono_literals;
 using Kind = InputEvent::Kind;
 
 constexpr int CellSide = 65 * TwipsPerPixel;
-constexpr int MostRounds = 150;  // kings may chase each other for ever
+constexpr int MostRounds = 80;  // kings may chase each other for ever
 
 }  // namespace
 
