@@ -5,7 +5,6 @@
 #include "computer/ranking.h"
 #include "support/board.h"
 #include "support/desk.h"
-#include "support/rules.h"
 
 namespace {
 
@@ -46,21 +45,15 @@ void ListShuffleAndSort(benchmark::State& state, const Case& testCase) {
 }
 
 void PlayWholeGame(benchmark::State& state) {
-  Random hand;
-  int turns = 0;
+  unsigned seed = 0;
   for (auto _ : state) {
     Desk desk;
-    desk.host.Midnight = static_cast<double>(state.iterations());
+    desk.host.Midnight = ++seed;
     desk.OpenBoard();
-    while (!desk.form.position.GameOver) {
-      const std::vector<Move> moves = BlueMoves(desk.form.position);
-      desk.PlayTurn(moves[static_cast<std::size_t>(hand.Draw(static_cast<int>(moves.size())))]);
-      ++turns;
-    }
+    benchmark::DoNotOptimize(desk.PlayGame(seed));
   }
   state.counters["games"] =
       benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
-  state.counters["turns/game"] = turns / static_cast<double>(state.iterations());
 }
 
 BENCHMARK(PlayWholeGame)->Unit(benchmark::kMicrosecond);

@@ -9,7 +9,6 @@ import argparse
 import collections
 import random
 import re
-import resource
 import subprocess
 import sys
 import tempfile
@@ -61,14 +60,14 @@ def is_statement(lines, k):
         not before or before[-1] in ";{}:" or before.startswith("  if") and before[-1] == ")")
 
 
-def all_changes(root):
+def all_changes(source):
     """Every change of every source file: (file, line number, word, old lines, new lines)."""
-    for path in sorted(path for folder in FOLDERS for path in (root / "src" / folder).iterdir()):
+    for path in sorted(path for folder in FOLDERS for path in (source / folder).iterdir()):
         lines = path.read_text().splitlines()
         is_header = path.suffix == ".h"
         for k, line in enumerate(lines):
-            if NOT_CODE.match(line) or not (
-                    INLINE.search(line) or not is_header and (line[0] == " " or "constexpr" in line)):
+            is_body = not is_header and (line.startswith(" ") or "constexpr" in line)
+            if NOT_CODE.match(line) or not (is_body or INLINE.search(line)):
                 continue  # declarations are left alone
             for word, new in changes_of_line(line):
                 yield path, k, word, [line], [new]
@@ -81,74 +80,57 @@ def all_changes(root):
                 yield path, k, "reverse", pair, pair[::-1]
 
 
-def limit_memory():
-    """A loop without end that keeps what it makes shall not take the machine along."""
-    resource.setrlimit(resource.RLIMIT_AS, (1 << 30, 1 << 30))
-
-
-class Bench:
-    """The scratch copy, its build and its tests, the quickest to build first."""
-
-    def __init__(self, folder, games):
-        self.root, self.build = folder / "source", folder / "build"
-        self.root.mkdir()
-        archive = subprocess.run(["git", "archive", "HEAD"], cwd=ROOT, check=True,
-                                 stdout=subprocess.PIPE)
-        subprocess.run(["tar", "-x", "-C", self.root], input=archive.stdout, check=True)
-        self.commands = [["tests/soak/soak", "--games", str(games)],
-                         ["tests/velmoran_tests", "--gtest_brief=1", "--gtest_fail_fast"]]
-        subprocess.run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja",
-                        "-DVELMORAN_DESKTOP=OFF", "-DVELMORAN_TESTS=ON", "-DCMAKE_BUILD_TYPE=None",
-                        "-DCMAKE_CXX_FLAGS=-O1 -w"], check=True, stdout=subprocess.DEVNULL)
-        outcome = self.outcome()
-        if outcome != "SURVIVED":
-            sys.exit(f"the unbroken source: {outcome}")
-
-    def outcome(self):
-        quiet = {"cwd": self.build, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
-        for name, *arguments in self.commands:
-            if subprocess.run(["ninja", "-j1", name], **quiet).returncode != 0:
-                return "does not compile"
-            try:
-                done = subprocess.run([self.build / name, *arguments], timeout=LIMIT,
-                                      preexec_fn=limit_memory, **quiet)
-            except subprocess.TimeoutExpired:
-                return f"killed by {name} (time)"
-            if done.returncode != 0:
-                return f"killed by {name}"
-        return "SURVIVED"
-
-    def outcome_of(self, path, k, old, new):
-        text = path.read_text()
-        lines = text.splitlines()
-        lines[k:k + len(old)] = new
-        path.write_text("\n".join(lines) + "\n")
+def outcome_in(build, tests):
+    """What becomes of the sources as they stand: the first test that notices ends it."""
+    quiet = {"cwd": build, "stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+    for test in tests:
+        name = test.split()[0]
+        if subprocess.run(["ninja", "-j1", name], **quiet).returncode != 0:
+            return "does not compile"
         try:
-            return self.outcome()
-        finally:
-            path.write_text(text)
+            # A loop without end that keeps what it makes shall not take the machine along.
+            done = subprocess.run(f"ulimit -v 1000000; exec {test}", shell=True, timeout=LIMIT,
+                                  **quiet)
+        except subprocess.TimeoutExpired:
+            return f"killed by {name} (time)"
+        if done.returncode != 0:
+            return f"killed by {name}"
+    return "SURVIVED"
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--sample", type=int, default=100, help="how many changes (default 100)")
     parser.add_argument("--seed", type=int, default=1, help="which sample (default 1)")
-    parser.add_argument("--games", type=int, default=300, help="games of soak (default 300)")
+    parser.add_argument("--games", default="300", help="games of soak (default 300)")
     parser.add_argument("--only", default="", help="only files whose path holds this")
     options = parser.parse_args()
+    # The quickest to build comes first.
+    tests = [f"tests/soak/soak --games {options.games}",
+             "tests/velmoran_tests --gtest_brief=1 --gtest_fail_fast"]
     with tempfile.TemporaryDirectory(prefix="break_lines_") as folder:
-        bench = Bench(Path(folder), options.games)
-        changes = [change for change in all_changes(bench.root) if options.only in str(change[0])]
+        build = Path(folder) / "build"
+        subprocess.run(f"git archive HEAD | tar -x -C {folder}", shell=True, cwd=ROOT, check=True)
+        subprocess.run(["cmake", "-S", folder, "-B", build, "-G", "Ninja",
+                        "-DVELMORAN_DESKTOP=OFF", "-DVELMORAN_TESTS=ON", "-DCMAKE_BUILD_TYPE=None",
+                        "-DCMAKE_CXX_FLAGS=-O1 -w"], check=True, stdout=subprocess.DEVNULL)
+        if (outcome := outcome_in(build, tests)) != "SURVIVED":
+            sys.exit(f"the unbroken source: {outcome}")
+        changes = [change for change in all_changes(Path(folder) / "src")
+                   if options.only in str(change[0])]
         print(f"{len(changes)} changes are possible", flush=True)
-        random.seed(options.seed)
         counts = collections.Counter()
-        for path, k, word, old, new in random.sample(changes, min(options.sample, len(changes))):
-            outcome = bench.outcome_of(path, k, old, new)
+        sample = random.Random(options.seed).sample(changes, min(options.sample, len(changes)))
+        for path, k, word, old, new in sample:
+            text = path.read_text()
+            lines = text.splitlines()
+            path.write_text("\n".join(lines[:k] + new + lines[k + len(old):]) + "\n")
+            outcome = outcome_in(build, tests)
+            path.write_text(text)
             counts[outcome.split(" by ")[0]] += 1
-            print(f"{outcome}: {path.relative_to(bench.root)}:{k + 1} {word}", flush=True)
+            print(f"{outcome}: {path.relative_to(folder)}:{k + 1} {word}", flush=True)
             if outcome == "SURVIVED":
-                print(*["  - " + text for text in old], *["  + " + text for text in new], sep="\n",
-                      flush=True)
+                print(*["  - " + line for line in old], *["  + " + line for line in new], sep="\n")
         killed, survived = counts["killed"], counts["SURVIVED"]
         print(f"{killed} killed, {survived} survived, {counts['does not compile']} do not "
               f"compile: {100 * killed / max(1, killed + survived):.1f} of 100 are noticed")

@@ -15,12 +15,9 @@ std::string Name(const MoveRecord& move) {
 
 /// Depth on arrival, score, and a letter for each thing that is so.
 std::string Tell(const MoveMerits& merits) {
-  std::string told = ':' + std::to_string(merits.DepthAtTo) + ',' + std::to_string(merits.Score);
-  if (merits.Attacks) told += 'a';
-  if (merits.IsSafeCrowning) told += 'c';
-  if (merits.TrapsAtFrom) told += 'f';
-  if (merits.TrapsAtTo) told += 't';
-  return told;
+  return ':' + std::to_string(merits.DepthAtTo) + ',' + std::to_string(merits.Score) +
+         (merits.Attacks ? "a" : "") + (merits.IsSafeCrowning ? "c" : "") +
+         (merits.TrapsAtFrom ? "f" : "") + (merits.TrapsAtTo ? "t" : "");
 }
 
 TEST(Choice, IsAsRecorded) {

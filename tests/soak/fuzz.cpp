@@ -25,10 +25,9 @@ int Roll(std::span<const std::uint8_t>& bytes, int sides) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   Desk desk;
   Watcher watcher(desk);
-  Hand hand(watcher,
-            [bytes = std::span(data, size)](int sides) mutable { return Roll(bytes, sides); });
   try {
-    hand.PlayGame();
+    PlayGame(watcher,
+             [bytes = std::span(data, size)](int sides) mutable { return Roll(bytes, sides); });
   } catch (const OutOfBytes&) {
   } catch (const Fault& fault) {
     std::fprintf(stderr, "fault at event %d: %s\n", watcher.Events, fault.what());

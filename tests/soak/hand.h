@@ -4,35 +4,9 @@
 
 #include "soak/watcher.h"
 
-/// A hand that plays one whole game from the splash or the opening on. It mostly plays by the
-/// rules, and now and then does anything else that a hand can do.
-class Hand {
- public:
-  /// `chance` gives a whole number from 0 to `sides` - 1.
-  Hand(Watcher& watchedGame, std::function<int(int sides)> chance)
-      : watcher(watchedGame), desk(watchedGame.desk), Roll(std::move(chance)) {}
+/// Gives a whole number from 0 to `sides` - 1.
+using Chance = std::function<int(int sides)>;
 
-  /// Plays until the program ends. Throws a `Fault` if something goes wrong.
-  void PlayGame();
-
- private:
-  void PlayRound();
-  void PlayTurn();
-  void Deal();
-  void DragByTheRules(const Move& move);
-  void DragCutOff(const Move& move);
-  void DragAnyhow();
-  void Disturb();
-  void Leave();
-
-  void Follow(const Move& move);
-  void Send(InputEvent::Kind what, Point at = {});
-  void Choose(const char* command);
-  void OpenHelp();
-  Point PointOn(int square);
-  Point PointAnywhere();
-
-  Watcher& watcher;
-  Desk& desk;
-  std::function<int(int sides)> Roll;
-};
+/// Plays one whole game with a hand that mostly goes by the rules, and now and then does anything
+/// else that a hand can do, until the program ends. Throws a `Fault` if something goes wrong.
+void PlayGame(Watcher& watcher, const Chance& chance);

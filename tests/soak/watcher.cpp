@@ -1,6 +1,8 @@
 #include "soak/watcher.h"
 
 #include <algorithm>
+#include <sstream>
+#include <utility>
 
 namespace {
 
@@ -11,6 +13,11 @@ bool HasPiece(const Table<Square, Pieces>& squares) {
 }
 
 bool HasJump(const std::vector<Move>& moves) { return std::ranges::any_of(moves, IsJump); }
+
+bool HasJumpFrom(int square, const std::vector<Move>& moves) {
+  return std::ranges::any_of(
+      moves, [&](const Move& move) { return IsJump(move) && move.front() == square; });
+}
 
 /// How a game must end that ends now; empty if it must not.
 std::string EndOf(const Position& position) {
@@ -84,16 +91,14 @@ void Watcher::CheckBoard() {
 void Watcher::CheckGreenHop() {
   const Position& now = desk.form.position;
   const std::vector<Move> hops = GreenHops(last);
-  const auto hop = std::ranges::find_if(
-      hops, [&](const Move& move) { return HasSameBoard(now, After(last, move)); });
+  const auto isThis = [&](const Move& hop) { return HasSameBoard(now, After(last, hop)); };
+  const auto hop = std::ranges::find_if(hops, isThis);
   Demand(hop != hops.end(), "green's move is against the rules");
   Demand(IsJump(*hop) || !HasJump(hops), "green takes where it can");
   Demand(chain == 0 || (chain == hop->front() && IsJump(*hop)), "green goes on with its piece");
   chain = hop->back();
-  const bool canJumpOn = std::ranges::any_of(GreenHops(now), [&](const Move& next) {
-    return IsJump(*hop) && next.front() == chain && IsJump(next);
-  });
-  Demand(canJumpOn != now.BlueToMove, "green jumps on for as long as it can");
+  const bool isLast = !IsJump(*hop) || !HasJumpFrom(chain, GreenHops(now));
+  Demand(isLast == now.BlueToMove, "green jumps on for as long as it can");
 }
 
 void Watcher::CheckDrag() const {
@@ -124,8 +129,7 @@ void Watcher::CheckBox(const MessageBox& box) {
 void Watcher::CheckRest() {
   const Position& position = desk.form.position;
   const auto isDragMode = [&](int mode) {
-    return std::ranges::all_of(desk.form.imgBlueChecker,
-                               [&](const Control& image) { return image.DragMode == mode; });
+    return std::ranges::count(desk.form.imgBlueChecker, mode, &Control::DragMode) == Pieces;
   };
   Demand(HasSameBoard(position, Crowned(position)), "whoever gets to the far row is crowned");
   Demand(!desk.form.BlinkStarted, "a blink outlives its turn");
@@ -138,16 +142,11 @@ void Watcher::CheckRest() {
   desk.host.Boxes.clear();
 }
 
-/// The board after an event, ticks that change nothing left out.
+/// The position after an event that has changed it or moved a drag.
 void Watcher::Tell() const {
-  const Position& position = desk.form.position;
-  if (position == last && desk.host.ShownDrag.Pointer == lastDrag.Pointer) return;
-  std::string path;
-  for (const Square square : position.JumpPath) {
-    if (square != 0) path += ' ' + std::to_string(square);
-  }
-  std::fprintf(Log, "%8lld ms  %s %s%s%s path%s\n",
-               static_cast<long long>(desk.host.Now().count() / 1000), Draw(position).c_str(),
-               position.BlueToMove ? "blue" : "green", position.GameOver ? " over" : "",
-               desk.host.ShownDrag.Source ? " drag" : "", path.c_str());
+  if (desk.form.position == last && desk.host.ShownDrag.Pointer == lastDrag.Pointer) return;
+  std::ostringstream told;
+  PrintTo(desk.form.position, &told);
+  std::fprintf(Log, "%8lld ms  %s\n", static_cast<long long>(desk.host.Now().count() / 1000),
+               told.str().c_str());
 }

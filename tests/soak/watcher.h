@@ -26,15 +26,13 @@ class Watcher {
   /// Puts other pieces on the board, in the human's turn.
   void Deal(const Position& position);
 
-  /// Whether the human could take a piece now.
-  bool IsHumansTurn() const;
-
   Desk& desk;
   std::FILE* Log = nullptr;  // where every change is told, if anywhere
   int Moves = 0;             // of the human
   int Events = 0;
 
  private:
+  bool IsHumansTurn() const;
   void CheckEvent();
   void CheckBoard();
   void CheckGreenHop();

@@ -54,12 +54,9 @@ std::string Draw(const Position& position) {
 }
 
 void PrintTo(const Position& position, std::ostream* out) {
-  const std::string rows = Draw(position);
-  for (std::size_t row = 0; row < 8; ++row) {
-    *out << (row % 2 == 0 ? "\n   " : "\n ");
-    for (std::size_t k = 0; k < 4; ++k) *out << rows[row * 5 + k] << "   ";
+  *out << Draw(position) << (position.BlueToMove ? " blue" : " green")
+       << (position.GameOver ? " over" : "") << (position.NewGameRequested ? " new game" : "");
+  for (const Square square : position.JumpPath) {
+    if (square != 0) *out << ' ' << square;
   }
-  *out << "\n blue to move: " << position.BlueToMove << ", over: " << position.GameOver
-       << ", new game requested: " << position.NewGameRequested << ", path:";
-  for (const Square square : position.JumpPath) *out << ' ' << square;
 }

@@ -20,5 +20,5 @@ std::string Marks(const Position& position);
 /// The picture of a position on one line: `Board` reads it.
 std::string Draw(const Position& position);
 
-/// How a failed test shows a position.
+/// The picture, the flags that are set and the jump path, as failed tests and logs show them.
 void PrintTo(const Position& position, std::ostream* out);

@@ -1,7 +1,10 @@
 #include "support/desk.h"
 
 #include <array>
+#include <sstream>
 #include <stdexcept>
+
+#include "support/rules.h"
 
 namespace {
 
@@ -60,6 +63,26 @@ void Desk::Drag(const std::vector<int>& squares) {
   Press(squares.front());
   for (const int square : squares) Move(square);
   Release(squares.back());
+}
+
+void Desk::PlayTurn(const std::vector<int>& squares) {
+  Drag(squares);
+  RunUntilQuiet();
+}
+
+std::string Desk::PlayGame(unsigned seed) {
+  Random hand;
+  hand.Randomize(seed);
+  std::ostringstream told;
+  while (!form.position.GameOver) {
+    const auto moves = BlueMoves(form.position);
+    const auto& drag = moves[static_cast<std::size_t>(hand.Draw(static_cast<int>(moves.size())))];
+    PlayTurn(drag);
+    for (const int square : drag) told << square << ' ';
+    told << "| " << ::Draw(form.position) << " | " << toolkit.random.DrawCount << '\n';
+  }
+  told << host.Boxes.back().Text << '\n';
+  return told.str();
 }
 
 void Desk::Pointer(InputEvent::Kind what, Point at) {

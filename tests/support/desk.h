@@ -30,10 +30,11 @@ class Desk {
   void Drag(const std::vector<int>& squares);
 
   /// Makes one drag and lets the computer answer.
-  void PlayTurn(const std::vector<int>& squares) {
-    Drag(squares);
-    RunUntilQuiet();
-  }
+  void PlayTurn(const std::vector<int>& squares);
+
+  /// Plays to the end of the game, with legal drags that a hand of this seed chooses. Tells each
+  /// turn, the drag, the board after the answer and the number of draws so far, and then the end.
+  std::string PlayGame(unsigned seed);
 
   void Press(int square) { Pointer(InputEvent::Kind::Press, Middle(square)); }
   void Move(int square) { Pointer(InputEvent::Kind::Move, Middle(square)); }

@@ -30,36 +30,36 @@ bool MayGo(char piece, Way way) {
   return (piece != 'b' || way.Rows > 0) && (piece != 'g' || way.Rows < 0);
 }
 
+char On(const std::string& marks, int square) { return marks[static_cast<std::size_t>(square)]; }
+
 void AddSteps(const std::string& marks, int from, std::vector<Move>& moves) {
   for (const Way way : Ways) {
     const int to = Go(from, way);
-    if (MayGo(marks[std::size_t(from)], way) && marks[std::size_t(to)] == '.') {
-      moves.push_back({from, to});
-    }
+    if (MayGo(On(marks, from), way) && On(marks, to) == '.') moves.push_back({from, to});
   }
 }
 
 /// Lengthens the move of a piece, which is in the hand, by each jump; a blue one then jumps on.
 void AddJumps(const std::string& marks, char piece, const Move& move, std::vector<Move>& moves) {
   const bool isBlue = piece == 'b' || piece == 'B';
-  const char* const prey = isBlue ? "gG" : "bB";
+  const std::string prey = isBlue ? "gG" : "bB";
   for (const Way way : Ways) {
     const int over = Go(move.back(), way);
     const int to = Go(over, way);
-    const char jumped = marks[std::size_t(over)];
-    const bool isPrey = jumped == prey[0] || jumped == prey[1];
-    if (!MayGo(piece, way) || !isPrey || marks[std::size_t(to)] != '.') continue;
-    Move& longer = moves.emplace_back(move);
+    if (!MayGo(piece, way) || On(marks, to) != '.' || prey.find(On(marks, over)) == prey.npos)
+      continue;
+    Move longer = move;
     longer.push_back(to);
+    moves.push_back(longer);
     if (!isBlue) continue;
     std::string onward = marks;
-    onward[std::size_t(over)] = 'x';  // it still blocks, but is no prey again
-    AddJumps(onward, piece, Move(longer), moves);
+    onward[static_cast<std::size_t>(over)] = 'x';  // it still blocks, but is no prey again
+    AddJumps(onward, piece, longer, moves);
   }
 }
 
 void AddJumpsOf(std::string marks, int from, std::vector<Move>& moves) {
-  const char piece = std::exchange(marks[std::size_t(from)], '.');
+  const char piece = std::exchange(marks[static_cast<std::size_t>(from)], '.');
   AddJumps(marks, piece, {from}, moves);
 }
 
