@@ -1,7 +1,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
-#include <cstring>
 
 #include "soak/hand.h"
 
@@ -49,20 +48,13 @@ bool Play(Seed seed, std::FILE* log, long long& moves, long long& events) {
 
 }  // namespace
 
+/// How many games, and the seed of the first; a single game is told event by event.
 int main(int count, char** arguments) {
-  Seed games = 10'000;
-  Seed first = 1;
-  std::FILE* log = nullptr;
-  for (int k = 1; k < count; ++k) {
-    const bool isGames = std::strcmp(arguments[k], "--games") == 0;
-    if (std::strcmp(arguments[k], "--verbose") == 0) {
-      log = stdout;
-    } else if ((isGames || std::strcmp(arguments[k], "--seed") == 0) && k + 1 < count) {
-      (isGames ? games : first) = std::strtoull(arguments[++k], nullptr, 10);
-    } else {
-      std::fputs("usage: soak [--games N] [--seed S] [--verbose]\n", stderr);
-      return 2;
-    }
+  const Seed games = count > 1 ? std::strtoull(arguments[1], nullptr, 10) : 0;
+  const Seed first = count > 2 ? std::strtoull(arguments[2], nullptr, 10) : 1;
+  if (games == 0) {
+    std::fputs("usage: soak GAMES [SEED]\n", stderr);
+    return 2;
   }
   std::signal(SIGABRT, TellSeed);
   std::signal(SIGSEGV, TellSeed);
@@ -70,8 +62,8 @@ int main(int count, char** arguments) {
   long long moves = 0;
   long long events = 0;
   for (Seed seed = first; seed < first + games; ++seed) {
-    if (Play(seed, log, moves, events)) continue;
-    if (!log) Play(seed, stdout, moves, events);
+    if (Play(seed, games == 1 ? stdout : nullptr, moves, events)) continue;
+    if (games > 1) Play(seed, stdout, moves, events);
     return 1;
   }
   const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;

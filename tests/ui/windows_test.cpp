@@ -2,6 +2,7 @@
 
 #include "recorded.h"
 #include "support/desk.h"
+#include "toolkit/paragraphs.h"
 
 namespace {
 
@@ -28,7 +29,8 @@ void Tell(std::ostream& out, const Control& control) {
       << control.Picture << " '" << control.Caption << "' " << control.ForeColor;
   if (control.BackColor) out << " on " << *control.BackColor;
   for (const std::string& family : control.Font.Families) out << ", " << family;
-  out << ' ' << control.Font.Points << " line " << control.LineWidth;
+  out << ' ' << control.Font.Points << " line " << control.LineWidth << " caption "
+      << control.CaptionWidth << '\n';
 }
 
 void Tell(std::ostream& out, const std::vector<MenuItem>& items, const std::string& margin) {
@@ -42,10 +44,7 @@ void Tell(std::ostream& out, const std::vector<MenuItem>& items, const std::stri
 void Tell(std::ostream& out, const Form& form) {
   out << form.Name << " '" << form.Caption << "' " << form.Width << 'x' << form.Height << ' '
       << form.BackColor << (form.HasFrame ? " framed" : "") << form.Icon << '\n';
-  for (const Control* control : form.Controls) {
-    Tell(out, *control);
-    out << ' ' << (form.Describe ? form.Describe(*control) : "-") << '\n';
-  }
+  for (const Control* control : form.Controls) Tell(out, *control);
   for (const TimerControl* timer : form.Timers) {
     out << "timer " << timer->Interval.count() << (timer->Enabled ? " on\n" : "\n");
   }
@@ -57,13 +56,14 @@ TEST(Windows, AreAsRecorded) {
   std::ostringstream told;
   Tell(told, desk.splash.window);
   Tell(told, desk.form.window);
-  PlacePosition(desk.form, Board("g... .... .b.. .... .... .... .... b.BG"));
+  PlacePosition(desk.form, Board("gggG gggg Gggg .... .... bbbB bbbb Bbbb"));
   for (const auto* box : {&desk.form.picGreenKingHighlightREF, &desk.form.picGreenKingREF,
                           &desk.form.picGreenCheckerHighlightREF, &desk.form.picBlueKingREF}) {
     Tell(told, *box);
-    told << '\n';
   }
-  for (const Control& label : desk.form.lblSquare) told << desk.form.window.Describe(label) << '\n';
+  for (const Control* control : desk.form.window.Controls) {
+    told << desk.form.window.Describe(*control) << '\n';
+  }
   desk.OpenBoard();
   for (const char* name : {"mnuControls", "mnuAbout", "mnuPart1", "mnuPart2", "mnuPart3"}) {
     desk.Choose(name);
@@ -73,6 +73,7 @@ TEST(Windows, AreAsRecorded) {
   desk.PlayTurn({1, 5});
   for (const auto& box : desk.host.Boxes) {
     told << '\n' << box.Title << ' ' << int(box.Icon) << '\n' << box.Text << '\n';
+    told << JoinBrokenLines(box.Text) << '\n';
   }
   std::string text = told.str();
   std::ranges::replace(text, '\r', '\\');  // no tool shall take it for a line end of its own
@@ -86,11 +87,9 @@ TEST(Windows, SplashGivesWayToTheBoardAndTheHelp) {
   desk.At(2499ms, [&] { EXPECT_EQ(desk.host.Forms, std::vector{&desk.splash.window}); });
   desk.At(6499ms, [&] {
     EXPECT_EQ(desk.host.Forms, std::vector{&desk.form.window});
-    EXPECT_TRUE(desk.form.tmrPause.Enabled) << "held by the box";
+    EXPECT_TRUE(desk.host.IsBoxOpen && desk.form.tmrPause.Enabled);
   });
   desk.RunUntilQuiet();
-  ASSERT_EQ(desk.host.Boxes.size(), 1);
-  EXPECT_EQ(desk.host.Boxes[0].Title, "Velmoran Game Controls");
   EXPECT_EQ(desk.host.Now(), 6500ms);
   EXPECT_FALSE(desk.form.tmrPause.Enabled);
 }
