@@ -12,6 +12,10 @@ struct Color {
   bool operator==(const Color&) const = default;
 };
 
+constexpr Color Black{0, 0, 0};
+constexpr Color White{255, 255, 255};
+constexpr Color Red{255, 0, 0};
+
 /// One filled outline of a picture, in pixels of the picture's own grid.
 struct PictureShape {
   enum class Kind {

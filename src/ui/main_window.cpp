@@ -16,9 +16,6 @@ using namespace std::chrono_literals;
 
 constexpr int CellSide = 65 * TwipsPerPixel;
 constexpr int BoardSide = 8 * CellSide;
-constexpr Color White{255, 255, 255};
-constexpr Color Black{0, 0, 0};
-constexpr Color Red{255, 0, 0};
 
 Control MakeLabel(const char* name, int index, const Rect& place, Color backColor) {
   Control label = MakeControl(ControlKind::Label, name, place);

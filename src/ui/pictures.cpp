@@ -12,8 +12,6 @@ constexpr double DiscMargin = 3;   // leaves a disc of 59 pixels
 constexpr double StarRadius = 23;  // from the centre to a point: 44 pixels across
 constexpr double RimWidth = 2.5;   // between the points of a star and those of its rim
 
-constexpr Color Black{0, 0, 0};
-constexpr Color Red{255, 0, 0};
 constexpr Color BlueDisc{36, 1, 254};
 constexpr Color GreenDisc{36, 255, 2};
 constexpr Color Cyan{1, 255, 255};

@@ -9,8 +9,6 @@ using namespace std::chrono_literals;
 
 constexpr int SplashWidth = 516 * TwipsPerPixel;
 constexpr int SplashHeight = 181 * TwipsPerPixel;
-constexpr Color White{255, 255, 255};
-constexpr Color Red{255, 0, 0};
 constexpr Color Green{0, 255, 0};
 constexpr Color Yellow{255, 255, 0};
 
