@@ -1,6 +1,6 @@
 # Builds all but the desktop by itself, and looks that no compiler call knows of Qt.
 execute_process(COMMAND_ERROR_IS_FATAL ANY
-  COMMAND ${CMAKE_COMMAND} -S ${SOURCE_DIR} -B ${BUILD_DIR} -G ${GENERATOR}
+  COMMAND ${CMAKE_COMMAND} --fresh -S ${SOURCE_DIR} -B ${BUILD_DIR} -G ${GENERATOR}
     -D CMAKE_CXX_COMPILER=${COMPILER} -D CMAKE_BUILD_TYPE=Debug -D CMAKE_CXX_FLAGS_DEBUG=-O0
     -D VELMORAN_DESKTOP=OFF -D VELMORAN_TESTS=OFF)
 execute_process(COMMAND_ERROR_IS_FATAL ANY

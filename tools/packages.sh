@@ -5,15 +5,17 @@ build=${BUILD:-build}
 # The fonts are those of the splash window. The xcb plugin comes with Qt itself.
 play_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation fonts-comic-neue fonts-dejavu-core)
 demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
-test_packages=("${play_packages[@]}" libgtest-dev libbenchmark-dev
+test_packages=("${play_packages[@]}" libgtest-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
-check_packages=("${test_packages[@]}" clang clang-format clang-tidy libclang-rt-14-dev gcovr valgrind)
-package_packages=("${play_packages[@]}" git dpkg-dev devscripts lintian desktop-file-utils appstream
+check_packages=("${test_packages[@]}" libbenchmark-dev clang clang-format clang-tidy gcovr valgrind)
+package_packages=("${play_packages[@]}" git file dpkg-dev devscripts lintian desktop-file-utils appstream
   mandoc xvfb x11-utils)
 
-# Installs those of the given packages that are not there yet.
+# Installs those of the given packages that are not there yet. Where there is no apt-get nothing is
+# installed, and CMake tells what is missing.
 install_missing() {
   local installed package missing=() as_root=()
+  { command -v apt-get && command -v dpkg-query; } >/dev/null || return 0
   # dpkg-query fails where it knows one of the names not at all; what it prints still counts.
   installed=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
   for package; do
@@ -23,18 +25,34 @@ install_missing() {
 
   echo "Installing with apt-get: ${missing[*]}"
   ((EUID == 0)) || as_root=(sudo)
-  "${as_root[@]}" apt-get -qq update
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get -qq install --yes --no-install-recommends "${missing[@]}"
+  command -v "${as_root[0]:-apt-get}" >/dev/null &&
+    "${as_root[@]}" apt-get -qq update &&
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+      apt-get -qq install --yes --no-install-recommends "${missing[@]}" && return
+  echo "Not installed. As root it is this, and then $0 again:" >&2
+  echo "    apt-get update && apt-get install --no-install-recommends ${missing[*]}" >&2
+  return 1
 }
 
-# Configures where there is no build yet or one of the given options (NAME=VALUE) stands otherwise.
+# What the build folder remembers under that name.
+cached() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt" 2>/dev/null; }
+
+# Configures where there is no build yet, one of the given options (NAME=VALUE) stands otherwise, or
+# either folder has been moved.
 configure() {
-  local option changed=
+  local option changed= fresh=()
+  if ! mkdir -p "$build" 2>/dev/null || [[ ! -w $build ]]; then
+    echo "Nothing can be written to $build. To build elsewhere: BUILD=FOLDER $0" >&2
+    return 1
+  fi
+  if [[ ! $(cached CMAKE_HOME_DIRECTORY) -ef . || ! $(cached CMAKE_CACHEFILE_DIR) -ef $build ]]; then
+    fresh=(--fresh)
+    ! command -v ninja >/dev/null || fresh+=(-G Ninja)
+  fi
   for option; do
-    grep -qs "^${option%%=*}:[A-Z]*=${option#*=}$" "$build/CMakeCache.txt" || changed=yes
+    [[ $(cached "${option%%=*}") == "${option#*=}" ]] || changed=yes
   done
-  if [[ $changed || ! -f $build/build.ninja ]]; then
-    cmake -S . -B "$build" -G Ninja "${@/#/-D}"
+  if [[ $changed || ${fresh[*]} || ! (-f $build/build.ninja || -f $build/Makefile) ]]; then
+    cmake "${fresh[@]}" -S . -B "$build" "${@/#/-D}"
   fi
 }
