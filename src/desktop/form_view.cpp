@@ -42,7 +42,7 @@ void FormView::Refresh(const Drag& drag) {
   AnnounceChanges(*this, changes.Words);
   if (!changes.HasOutlineChanged) return;
   if (changes.OutlineBefore) Repaint(*changes.OutlineBefore);
-  if (shown.Outline()) Repaint(*shown.Outline());
+  if (const auto& outline = shown.Outline()) Repaint(*outline);
 }
 
 void FormView::SetScale(double scale) {
@@ -65,7 +65,7 @@ void FormView::paintEvent(QPaintEvent* event) {
     if (!event->region().intersects(AroundPixels(PixelsOf(RectOf(*control))))) return;
     PaintControl(painter, *control);
   });
-  if (shown.Outline()) PaintDragOutline(painter, PixelRect(*shown.Outline()));
+  if (const auto& outline = shown.Outline()) PaintDragOutline(painter, PixelRect(*outline));
 }
 
 /// From the form's own pixels to those of the view.
