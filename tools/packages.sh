@@ -1,4 +1,4 @@
-# Sourced by ../play and ../test: what either needs from Debian, and how the game is configured.
+# Sourced by ../play, ../test and ../web: what each needs from Debian, and how the game is configured.
 
 build=${BUILD:-build}
 
@@ -8,6 +8,9 @@ demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
 check_packages=("${test_packages[@]}" libbenchmark-dev clang clang-format clang-tidy gcovr valgrind)
+# The compiler of the page, its C and C++ libraries, and what lays its stack aside.
+web_packages=(cmake ninja-build python3 clang-19 lld-19 libc++-19-dev-wasm32 libc++abi-19-dev-wasm32
+  libclang-rt-19-dev-wasm32 wasi-libc binaryen llvm)
 package_packages=("${play_packages[@]}" git file dpkg-dev devscripts lintian desktop-file-utils appstream
   mandoc xvfb x11-utils)
 
