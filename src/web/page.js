@@ -5,15 +5,16 @@ const Kinds = {Press: 0, Move: 1, Release: 2, CancelDrag: 3, MenuCommand: 4};
 const [main, news, box] = document.querySelectorAll('main, #news, dialog');
 const find = (selector, within = document) => [...within.querySelectorAll(selector)];
 
-let game;       // what the program exports; nothing before it runs and after it has ended
+let game;       // what the program exports; nothing before it runs and after it has stopped
 let stack;      // where its stack lies while it waits
 let isWaiting;  // it goes on as soon as there is input
-let alarm;      // or when this timer has run out
+let alarm;      // or once this timer has run out
 let view;       // the client area of the form that is shown
 
-// ---- The stack of the program is laid aside while it waits (Binaryen's Asyncify).
+// ---- The program runs until it waits. Its stack is laid aside then (Binaryen's Asyncify).
 
 const Rewinding = 2;
+const Ended = new Error('The game has ended.');
 
 function suspending(begin) {
   return (...values) => {
@@ -24,12 +25,8 @@ function suspending(begin) {
 }
 
 function run() {
-  try {
-    game.run();
-    game.asyncify_stop_unwind();
-  } catch (error) {
-    stop(error);
-  }
+  game.run();
+  game.asyncify_stop_unwind();
 }
 
 function goOn() {
@@ -47,27 +44,36 @@ function put(kind, x = 0, y = 0, command = 0) {
 
 const cancelDrag = () => put(Kinds.CancelDrag);
 
-/// Leaves a sentence instead of the game. Nothing of it runs any more.
+/// Leaves a sentence instead of the game, of which nothing runs any more.
 function stop(reason) {
-  const text = reason == Ended ? 'The game is closed.' :
-      game ? 'The game has found a fault in itself and stopped.' : main.textContent;
+  main.className = '';
   if (reason != Ended) console.error(reason);
+  if (!game) return;  // it never ran: the page's own sentence has stood there all the time
   game = undefined;
   box.close();
-  main.className = '';
   main.innerHTML = '<p></p><button>Start again</button>';
-  main.firstChild.textContent = text;
+  main.firstChild.textContent =
+      reason == Ended ? 'The game is closed.' : 'The game has found a fault in itself and stopped.';
   main.lastChild.onclick = () => location.reload();
   main.lastChild.focus();
 }
 
-// ---- What the program asks for
+addEventListener('error', event => {
+  event.preventDefault();
+  stop(event.error);
+});
 
-const Ended = new Error('The game has ended.');
+// ---- What the program asks for
 
 function textAt(address) {
   const memory = new Uint8Array(game.memory.buffer);
   return new TextDecoder().decode(memory.subarray(address, memory.indexOf(0, address)));
+}
+
+function elementOf(tag, text) {
+  const element = document.createElement(tag);
+  element.textContent = text;
+  return element;
 }
 
 const page = {
@@ -79,18 +85,14 @@ const page = {
   },
   wait: suspending(milliseconds => {
     isWaiting = true;
-    alarm = milliseconds < 0 ? 0 : setTimeout(goOn, Math.ceil(milliseconds));
+    if (milliseconds >= 0) alarm = setTimeout(goOn, Math.ceil(milliseconds));
   }),
   showBox: suspending((text, title, icon) => {
-    openMenu(null);
-    document.querySelector('#title').textContent = textAt(title);
-    find('g', box).forEach(g => g.style.display = g.id == 'icon' + icon ? 'inline' : '');
-    document.querySelector('#text').replaceChildren(
-        ...textAt(text).replaceAll('\r\n', '\n').split('\n\n').map(paragraph => {
-          const element = document.createElement('p');
-          element.textContent = paragraph;
-          return element;
-        }));
+    view.focus();
+    box.querySelector('h1').textContent = textAt(title);
+    box.querySelector('svg').setAttribute('class', 'icon' + icon);
+    const paragraphs = textAt(text).replaceAll('\r\n', '\n').split('\n\n');
+    box.querySelector('section').replaceChildren(...paragraphs.map(text => elementOf('p', text)));
     box.showModal();
   }),
   open(markup, title, icon) {
@@ -111,9 +113,7 @@ const page = {
     control.setAttribute('aria-label', textAt(words));
   },
   announce(words) {
-    const line = document.createElement('span');
-    line.textContent = textAt(words) + '. ';
-    news.append(line);
+    news.append(elementOf('p', textAt(words)));
     if (news.childElementCount > 20) news.firstChild.remove();
   },
   end() { throw Ended; },
@@ -126,26 +126,27 @@ const Left = 1;
 
 function watchPointer() {
   let held = 0;  // the buttons that were down last
-  let holder;    // the pointer they belong to
+  let holder;    // the pointer that they belong to
   const follow = event => {
     if (!event.isPrimary || (held && event.pointerId != holder)) return;
     const area = view.getBoundingClientRect();
     const scale = view.viewBox.baseVal.width / area.width;
     const at = e => [(e.clientX - area.left) * scale, (e.clientY - area.top) * scale].map(Math.floor);
-    const way = event.type == 'pointermove' ? event.getCoalescedEvents?.() ?? [] : [];
-    for (const step of way.length ? way : [event]) put(Kinds.Move, ...at(step));
+    const isMove = event.type == 'pointermove';
+    const way = isMove && event.getCoalescedEvents?.() || [];
+    for (const step of way.length ? way : isMove ? [event] : []) put(Kinds.Move, ...at(step));
     if (event.type == 'pointerdown') {
       held = 0;
       holder = event.pointerId;
       view.setPointerCapture(holder);
+      view.focus();
     }
     const down = event.buttons & ~held, up = held & ~event.buttons;
     held = event.buttons;
     if (down & Left) put(Kinds.Press, ...at(event));
     if (down & ~Left) cancelDrag();
-    // A pointer that is found without a button has let go where the page did not see it.
-    const isLost = event.type == 'pointermove' && !event.buttons;
-    if (up & Left) isLost ? cancelDrag() : put(Kinds.Release, ...at(event));
+    // A pointer that comes along without a button has let go where the page did not see it.
+    if (up & Left) isMove && !held ? cancelDrag() : put(Kinds.Release, ...at(event));
   };
   for (const type of ['pointerdown', 'pointermove', 'pointerup']) view.addEventListener(type, follow);
   view.addEventListener('lostpointercapture', () => {
@@ -159,98 +160,93 @@ addEventListener('blur', cancelDrag);
 document.addEventListener('visibilitychange', () => document.hidden && cancelDrag());
 
 document.addEventListener('keydown', event => {
-  if (!game || event.altKey || event.shiftKey) return;
   if (box.open) {
-    // A click beside the button has taken its focus away.
+    // A click beside the button has taken the focus from it.
     if (event.key != 'Enter' || event.repeat) return;
     box.close();
-  } else if (event.key == 'Escape') {
-    return cancelDrag();
   } else {
-    if (!event.ctrlKey && !event.metaKey) return;
-    const shortcut = 'Ctrl+' + event.key.toUpperCase();
-    const label = find('nav kbd').find(kbd => kbd.textContent == shortcut);
-    if (!label) return;
-    label.parentNode.click();
+    if (event.key == 'Escape') cancelDrag();
+    if (!(event.ctrlKey || event.metaKey) || event.altKey || event.shiftKey) return;
+    const shortcut = find('nav kbd').find(kbd => kbd.textContent == 'Ctrl+' + event.key.toUpperCase());
+    if (!shortcut) return;
+    shortcut.parentNode.click();
   }
   event.preventDefault();
 });
 box.querySelector('button').onclick = () => box.close();
 box.onclose = () => game && goOn();
 
-// ---- Menus
+// ---- Menus: an entry that opens one is followed by it.
 
-const menuOf = item => item.nextElementSibling;  // the menu that an entry of the bar or of a menu opens
+const isOwner = item => item.hasAttribute('aria-haspopup');
+const isOpen = item => item.getAttribute('aria-expanded') == 'true';
+const menuOf = item => item.closest('[role=menu], [role=menubar]');
+const ownerOf = item => menuOf(item).previousElementSibling;  // none of an entry of the bar
 const itemsOf = menu => find(':scope > button, :scope > div > button', menu);
-const ownerOf = item => item.closest('[role=menu]')?.previousElementSibling;
 
-/// Shows the menu of this entry and those that it lies in, and no other; none without an entry.
+/// Shows the menu of this entry and those that it lies in, and no others; without an entry none.
 function openMenu(item) {
-  for (const owner of find('nav [aria-expanded]')) {
-    owner.setAttribute('aria-expanded', !!item && owner.parentNode.contains(item) &&
-        (owner == item || menuOf(owner).contains(item)));
+  for (const owner of find('nav [aria-haspopup]')) {
+    owner.setAttribute('aria-expanded', owner.parentNode.contains(item));
   }
   if (item) cancelDrag();
 }
 
-const isOpen = item => item?.getAttribute('aria-expanded') == 'true';
+function enterMenu(owner, place) {
+  openMenu(owner);
+  itemsOf(owner.nextElementSibling).at(place).focus();
+}
 
-function enter(item, place) {
-  openMenu(item);
-  itemsOf(menuOf(item)).at(place).focus();
+function leaveMenu(owner) {
+  openMenu(ownerOf(owner));
+  owner.focus();
 }
 
 function watchMenu() {
   const bar = main.querySelector('nav');
   if (!bar) return;
-  bar.addEventListener('click', event => {
-    const item = event.target.closest('button');
+  bar.addEventListener('click', ({target, detail}) => {
+    const item = target.closest('button');
     if (!item) return;
-    if (item.ariaHasPopup) return openMenu(isOpen(item) ? ownerOf(item) : item);
-    openMenu(null);
-    view.focus();
-    put(Kinds.MenuCommand, 0, 0, item.value);
+    if (!isOwner(item)) {
+      view.focus();
+      put(Kinds.MenuCommand, 0, 0, item.value);
+    } else if (!detail) {
+      enterMenu(item, 0);  // by a key
+    } else {
+      openMenu(menuOf(item) == bar && isOpen(item) ? null : item);
+      item.focus();
+    }
   });
-  bar.addEventListener('pointerover', event => {
-    const item = event.target.closest('button');
-    if (!item || event.pointerType != 'mouse' || !find('[aria-expanded=true]', bar).length) return;
-    openMenu(item.ariaHasPopup ? item : ownerOf(item));
+  bar.addEventListener('pointerover', ({target, pointerType}) => {
+    const item = target.closest('button');
+    if (!item || pointerType != 'mouse' || !itemsOf(bar).some(isOpen)) return;
+    openMenu(isOwner(item) ? item : ownerOf(item));
+    item.focus();
   });
-  bar.addEventListener('focusout', event => {
-    if (!bar.contains(event.relatedTarget)) openMenu(null);
+  // Not every browser gives a button the focus at a click: it is given here, in all of them.
+  bar.addEventListener('mousedown', event => event.preventDefault());
+  bar.addEventListener('focusout', ({relatedTarget}) => {
+    if (!bar.contains(relatedTarget)) openMenu(null);
   });
   bar.addEventListener('keydown', event => {
-    const item = document.activeElement;
-    const owner = ownerOf(item);
-    const bars = itemsOf(bar);
-    const beside = (items, from, step) =>
-        items.at((items.indexOf(from) + step + items.length) % items.length);
-    if (event.ctrlKey || event.metaKey || event.altKey) return;
-    const step = {ArrowDown: 1, ArrowUp: -1, ArrowRight: 1, ArrowLeft: -1}[event.key];
-    if (event.key == 'ArrowDown' || event.key == 'ArrowUp') {
-      if (owner) beside(itemsOf(item.closest('[role=menu]')), item, step).focus();
-      else enter(item, step > 0 ? 0 : -1);
-    } else if (event.key == 'ArrowRight' && owner && item.ariaHasPopup) {
-      enter(item, 0);
-    } else if (event.key == 'ArrowLeft' && owner && ownerOf(owner)) {
-      openMenu(ownerOf(owner));
-      owner.focus();
-    } else if (step) {
-      const next = beside(bars, bars.find(top => top.parentNode.contains(item)), step);
-      if (find('[aria-expanded=true]', bar).length) enter(next, 0);
-      else next.focus();
-    } else if (event.key == 'Escape') {
-      if (isOpen(item)) openMenu(owner);
-      else if (owner) openMenu(ownerOf(owner) ?? null), owner.focus();
-      else view.focus();
-    } else {
-      const key = event.key.toLowerCase();
-      const named = owner && itemsOf(item.closest('[role=menu]')).find(
-          other => other.querySelector('u')?.textContent.toLowerCase() == key);
-      if (!named) return;
-      if (named.ariaHasPopup) enter(named, 0);
-      else named.click();
-    }
+    const item = event.target, owner = ownerOf(item), items = itemsOf(menuOf(item));
+    const beside = (all, one, step) => all.at((all.indexOf(one) + step) % all.length);
+    const goAlong = step => {
+      const top = beside(itemsOf(bar), itemsOf(bar).find(top => top.parentNode.contains(item)), step);
+      itemsOf(bar).some(isOpen) ? enterMenu(top, 0) : top.focus();
+    };
+    const byKey = {
+      ArrowDown: () => owner ? beside(items, item, 1).focus() : enterMenu(item, 0),
+      ArrowUp: () => owner ? beside(items, item, -1).focus() : enterMenu(item, -1),
+      ArrowRight: () => owner && isOwner(item) ? enterMenu(item, 0) : goAlong(1),
+      ArrowLeft: () => owner && ownerOf(owner) ? leaveMenu(owner) : goAlong(-1),
+      Escape: () => owner ? leaveMenu(owner) : isOpen(item) ? openMenu(null) : view.focus(),
+    };
+    const named = items.find(other => other.querySelector('u')?.textContent.toLowerCase() == event.key);
+    const act = byKey[event.key] ?? (named && (() => named.click()));
+    if (!act || event.ctrlKey || event.metaKey || event.altKey) return;
+    act();
     event.preventDefault();
   });
 }
@@ -258,13 +254,12 @@ function watchMenu() {
 // ---- Start
 
 async function start() {
-  const packed = document.querySelector('#program').textContent;
-  const bytes = new Blob([Uint8Array.from(atob(packed), c => c.charCodeAt(0))]);
-  const unpacked = bytes.stream().pipeThrough(new DecompressionStream('gzip'));
-  const program = new Response(unpacked, {headers: {'Content-Type': 'application/wasm'}});
+  const packed = Uint8Array.from(atob(find('#program')[0].textContent), c => c.charCodeAt(0));
+  const bytes = new Blob([packed]).stream().pipeThrough(new DecompressionStream('gzip'));
+  const program = new Response(bytes, {headers: {'Content-Type': 'application/wasm'}});
   game = (await WebAssembly.instantiateStreaming(program, {page})).instance.exports;
-  stack = game.stack();
   game._initialize();
+  stack = game.stack();
   run();
 }
 start().catch(stop);

@@ -31,7 +31,7 @@ class Screen:
         number, told = os.pipe()
         self.server = self.start(
             "Xvfb", "-displayfd", str(told), "-fbdir", self.folder.name, "-screen", "0",
-            size, "-nocursor", "-noreset", pass_fds=[told])
+            self.size, "-nocursor", "-noreset", pass_fds=[told])
         os.close(told)
         with open(number) as line:
             self.env["DISPLAY"] = ":" + line.readline().strip()
