@@ -11,6 +11,7 @@ check_packages=("${test_packages[@]}" libbenchmark-dev clang clang-format clang-
 # The compiler of the page, its C and C++ libraries, and what lays its stack aside.
 web_packages=(cmake ninja-build python3 clang-19 lld-19 libc++-19-dev-wasm32 libc++abi-19-dev-wasm32
   libclang-rt-19-dev-wasm32 wasi-libc binaryen llvm)
+browser_packages=(chromium firefox-esr)
 package_packages=("${play_packages[@]}" git file dpkg-dev devscripts lintian desktop-file-utils appstream
   mandoc xvfb x11-utils)
 

@@ -30,13 +30,14 @@ std::string PlaceAttributes(const Rect& place) {
 }
 
 std::string ViewBox(int width, int height) {
-  return Attribute("viewBox", "0 0 " + std::to_string(width) + " " + std::to_string(height));
+  return Attribute("viewBox",
+                   std::string("0 0 ") + std::to_string(width) + " " + std::to_string(height));
 }
 
 std::string RectPath(const Rect& rect) {
   const std::string width = std::to_string(rect.Width);
-  return "M" + std::to_string(rect.Left) + " " + std::to_string(rect.Top) + "h" + width + "v" +
-         std::to_string(rect.Height) + "h-" + width + "z";
+  return std::string("M") + std::to_string(rect.Left) + " " + std::to_string(rect.Top) + "h" +
+         width + "v" + std::to_string(rect.Height) + "h-" + width + "z";
 }
 
 /// A line of this width along the edges of the rectangle, inside of it.
@@ -86,8 +87,9 @@ std::string CaptionMarkup(const Control& control) {
   for (const std::string& family : control.Font.Families) families += "'" + family + "',";
   return "<text" + Attribute("x", control.Left + control.Width / 2) + Attribute("y", control.Top) +
          Attribute("fill", control.ForeColor) + Attribute("font-family", families + "sans-serif") +
-         Attribute("font-size", control.Font.Points * TwipsPerPoint) + ">" +
-         Escaped(control.Caption) + "</text>";
+         Attribute("font-size", control.Font.Points * TwipsPerPoint) +
+         Attribute("data-room", control.CaptionWidth != 0 ? control.CaptionWidth : control.Width) +
+         ">" + Escaped(control.Caption) + "</text>";
 }
 
 std::string LabelMarkup(const Control& control) {

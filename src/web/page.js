@@ -105,7 +105,11 @@ const page = {
     watchMenu();
   },
   paint(place, markup) {
-    document.getElementById('control' + place).innerHTML = textAt(markup);
+    const control = document.getElementById('control' + place);
+    control.innerHTML = textAt(markup);
+    const caption = control.querySelector('text');
+    const excess = caption?.getComputedTextLength() / caption?.dataset.room;
+    if (excess > 1) caption.setAttribute('font-size', caption.getAttribute('font-size') / excess);
   },
   describe(place, words) {
     const control = document.getElementById('control' + place);

@@ -6,7 +6,7 @@ export const folder = resolve(process.env.BUILD ?? 'build-web');
 const puppeteer = createRequire(folder + '/')('puppeteer-core');
 
 /// Debian's browsers: the one by its developer tools, the other by the standard protocol.
-export const browsers = {
+const browsers = {
   chrome: {executablePath: '/usr/bin/chromium', args: ['--no-sandbox']},
   firefox: {executablePath: '/usr/bin/firefox-esr'},
 };
