@@ -1,0 +1,96 @@
+// Measures what the page costs in both browsers: measure_web.mjs FOLDER [RUNS], with the build folder
+// that tests/web/run leaves. Printed are medians of runs made in turn: milliseconds from navigation
+// to the first thing painted, of the page and of an empty one of the same size; microseconds of a
+// pointer event's whole round trip; milliseconds of processor time, of all processes of the browser,
+// over 10 s at rest (beside an empty page) and over a computer's turn; KiB of the program's memory.
+import {execFileSync} from 'node:child_process';
+import {readFileSync, statSync, writeFileSync} from 'node:fs';
+import {createRequire} from 'node:module';
+import {resolve} from 'node:path';
+import {pathToFileURL} from 'node:url';
+import {gzipSync} from 'node:zlib';
+
+const folder = resolve(process.argv[2]);
+const runs = Number(process.argv[3] ?? 5);
+const puppeteer = createRequire(folder + '/')('puppeteer-core');
+const page = `${folder}/velmoran.html`, empty = `${folder}/empty.html`;
+const size = statSync(page).size;
+const head = '<!DOCTYPE html><title>Empty</title><body><p>Empty</p><!--';
+writeFileSync(empty, head + '.'.repeat(size - head.length - 3) + '-->');
+
+const browsers = {
+  chrome: {executablePath: '/usr/bin/chromium', args: ['--no-sandbox']},
+  firefox: {executablePath: '/usr/bin/firefox-esr'},
+};
+const url = file => pathToFileURL(file).href;
+const rest = milliseconds => new Promise(done => setTimeout(done, milliseconds));
+const median = values => values.sort((a, b) => a - b)[Math.floor(values.length / 2)];
+
+/// Milliseconds of processor time that a process and all that it has started have taken.
+function processorTime(root) {
+  const parents = new Map(execFileSync('ps', ['-eo', 'pid=,ppid=']).toString().trim().split('\n')
+      .map(line => line.trim().split(/\s+/).map(Number)));
+  const isOurs = pid => pid == root || (parents.has(pid) && isOurs(parents.get(pid)));
+  let ticks = 0;
+  for (const pid of [...parents.keys()].filter(isOurs)) {
+    try {
+      const fields = readFileSync(`/proc/${pid}/stat`, 'utf8').split(') ')[1].split(' ');
+      ticks += Number(fields[11]) + Number(fields[12]);
+    } catch { /* it has ended meanwhile */ }
+  }
+  return ticks * 10;
+}
+
+async function paintOf(browser, file) {
+  const tab = await browser.newPage();
+  await tab.goto(url(file));
+  const seen = await tab.waitForFunction(
+      () => performance.getEntriesByName('first-contentful-paint')[0]?.startTime, {timeout: 10000});
+  const time = await seen.jsonValue();
+  await tab.close();
+  return time;
+}
+
+async function costOf(browser, milliseconds) {
+  const before = processorTime(browser.process().pid);
+  await rest(milliseconds);
+  return processorTime(browser.process().pid) - before;
+}
+
+async function measure(name) {
+  const browser = await puppeteer.launch({browser: name, ...browsers[name]});
+  const paints = {page: [], empty: []};
+  for (let run = 0; run < runs; ++run) {
+    paints.empty.push(await paintOf(browser, empty));
+    paints.page.push(await paintOf(browser, page));
+  }
+  const tab = await browser.newPage();
+  await tab.goto(url(empty));
+  await rest(2000);
+  const emptyAtRest = await costOf(browser, 10000);
+  await tab.goto(url(page));
+  await tab.waitForFunction(() => box.open, {timeout: 10000});
+  await tab.keyboard.press('Enter');
+  await rest(2000);
+  const atRest = await costOf(browser, 10000);
+  const roundTrip = await tab.evaluate(() => {
+    const times = 20000, start = performance.now();
+    for (let k = 0; k < times; ++k) put(Kinds.Move, k % 7800, 4000);
+    return (performance.now() - start) / times * 1000;
+  });
+  const area = await (await tab.$('#view')).boundingBox();
+  const at = (column, row) => [area.x + (column + .5) * area.width / 8, area.y + (row + .5) * area.height / 8];
+  await tab.mouse.move(...at(0, 5));
+  await tab.mouse.down();
+  await tab.mouse.move(...at(1, 4));
+  await tab.mouse.up();
+  const turn = await costOf(browser, 3500);
+  const memory = await tab.evaluate(() => game.memory.buffer.byteLength / 1024);
+  await browser.close();
+  console.log(`${name}: splash ${median(paints.page).toFixed(0)} ms, empty page ${
+      median(paints.empty).toFixed(0)} ms; round trip ${roundTrip.toFixed(1)} us; 10 s at rest ${
+      atRest} ms, empty page ${emptyAtRest} ms; a turn ${turn} ms; memory ${memory} KiB`);
+}
+
+console.log(`${size} bytes, ${gzipSync(readFileSync(page), {level: 9}).length} gzipped`);
+for (const name of Object.keys(browsers)) await measure(name);
