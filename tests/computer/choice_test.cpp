@@ -24,7 +24,8 @@ TEST(Choice, IsAsRecorded) {
   ExpectAnswers("choices.txt", [](const std::string& picture) {
     const Position position = Board(picture);
     MoveList moves = ListGreenMoves(position);
-    moves.Items.resize(static_cast<std::size_t>(moves.Count));  // an empty list keeps a slot
+    EXPECT_EQ(std::ssize(moves.Items), std::max<int>(moves.Count, 1));
+    moves.Items.resize(static_cast<std::size_t>(moves.Count));
     std::string told;
     for (const MoveRecord& move : moves.Items) {
       told += Name(move) + Tell(JudgeMove(position, move, ReportError)) + ' ';
@@ -35,6 +36,9 @@ TEST(Choice, IsAsRecorded) {
       told += '>';
       for (const MoveRecord& move : moves.Items) told += ' ' + Name(move);
       std::ranges::reverse(moves.Items);
+    }
+    for (; moves.Count > 0; MoveListRemoveAt(moves, 0)) {
+      EXPECT_EQ(std::ssize(moves.Items), moves.Count) << "an emptied list alone keeps a slot";
     }
     return told;
   });
