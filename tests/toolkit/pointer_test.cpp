@@ -67,7 +67,7 @@ TEST_F(AnyForm, IsShownByItsChanges) {
   std::optional<Rect> outline;
   for (int round = 0; round < 300; ++round) {
     if (round % 3 == 0) Scatter();
-    if (round % 3 == 1) controls[round % 8].Caption = std::to_string(round / 9);
+    if (round % 3 == 1) controls[std::size_t(round) % 8].Caption = std::to_string(round / 9);
     const Drag drag{round % 5 == 0 ? &form : nullptr,
                     round % 7 == 0 ? nullptr : &controls[2],
                     {1, Between(2, 3)},
