@@ -56,12 +56,12 @@ class Hand {
     const auto chance = [&](std::uint64_t percent) { return generator() % 100 < percent; };
     const std::uint64_t crowded = 10 + generator() % 70;
     const std::uint64_t greenShare = 10 + generator() % 80;
-    int left[] = {Pieces, Pieces};
+    std::array left{Pieces, Pieces};
     std::string picture(Squares, '.');
     for (std::size_t place = 0; place < Squares; ++place) {
       const bool isGreen = chance(greenShare);
       const bool isKing = chance(40) || place < 4 || place >= 28;
-      if (chance(crowded) && left[isGreen]-- > 0) picture[place] = "bBgG"[isGreen * 2 + isKing];
+      if (chance(crowded) && left[std::size_t(isGreen)]-- > 0) picture[place] = "bBgG"[isGreen * 2 + isKing];
     }
     const Position position = Board(picture);
     if (left[1] < Pieces && !BlueMoves(position).empty()) watcher.Deal(position);

@@ -1,6 +1,7 @@
 #include "support/rules.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <string>
 #include <utility>
@@ -14,7 +15,7 @@ struct Way {
   int Rows, Columns;
 };
 
-constexpr Way Ways[] = {{1, -1}, {1, 1}, {-1, -1}, {-1, 1}};
+constexpr std::array<Way, 4> Ways{{{1, -1}, {1, 1}, {-1, -1}, {-1, 1}}};
 
 int RowOf(int square) { return (square - 1) / 4; }
 
