@@ -61,7 +61,8 @@ class Hand {
     for (std::size_t place = 0; place < Squares; ++place) {
       const bool isGreen = chance(greenShare);
       const bool isKing = chance(40) || place < 4 || place >= 28;
-      if (chance(crowded) && left[std::size_t(isGreen)]-- > 0) picture[place] = "bBgG"[isGreen * 2 + isKing];
+      if (chance(crowded) && left[std::size_t(isGreen)]-- > 0)
+        picture[place] = "bBgG"[isGreen * 2 + isKing];
     }
     const Position position = Board(picture);
     if (left[1] < Pieces && !BlueMoves(position).empty()) watcher.Deal(position);
