@@ -1,6 +1,7 @@
 #include "web/web_host.h"
 
 #include <algorithm>
+#include <cassert>
 
 #include "web/markup.h"
 #include "web/menu_markup.h"
@@ -44,6 +45,7 @@ void WebHost::Open(Form& form) {
 }
 
 void WebHost::Refresh(const Drag& drag) {
+  assert(shown);
   const ShownForm::Changes changes = shown->Update(drag);
   for (const ShownForm::ChangedLook& look : changes.Looks) {
     PagePaint(look.Place, ControlMarkup(*window->Controls[look.Place]).c_str());
@@ -55,6 +57,6 @@ void WebHost::Refresh(const Drag& drag) {
   }
   if (!news.empty()) PageAnnounce(news.c_str());
   if (!changes.HasOutlineChanged) return;
-  const std::string outline = shown->Outline() ? OutlineMarkup(*shown->Outline()) : "";
-  PagePaint(window->Controls.size(), outline.c_str());
+  const std::optional<Rect>& outline = shown->Outline();
+  PagePaint(window->Controls.size(), outline ? OutlineMarkup(*outline).c_str() : "");
 }
