@@ -82,7 +82,7 @@ check_files() {
   check_metainfo "$root"/usr/share/metainfo/*.xml
   check_version "$root"
   zcat "$root/usr/share/man/man6/velmoran.6.gz" | mandoc -T lint
-  # No two of the tool's questions fit here. The game calls no function that can be fortified where
+  # Two of the tool's questions do not fit here. The game calls no function that can be fortified where
   # the compiler knows the size; and the start files of Debian 12 bear no mark of protected control
   # flow, so no program built there does.
   skipped=(--nofortify --nocfprotection)
