@@ -8,12 +8,17 @@
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
+#include <mutex>
 
 namespace {
 
 constexpr int LeastDepth = 15;  // bits a pixel; on less Qt draws nothing
 
+/// Ends the program with one line, even if two threads come to know at once: on Wayland Qt reads
+/// from the display in a thread of its own.
 [[noreturn]] void Leave(const QString& reason) {
+  static std::mutex onlyOne;
+  onlyOne.lock();
   std::fprintf(stderr, "velmoran: %s\n", qPrintable(reason.simplified()));
   std::_Exit(1);
 }

@@ -118,16 +118,21 @@ def play(game):
     until("the new game", lambda: game.picture() == game.at_rest)
 
 
-for scale in 1, 1.5, 2:
+# A game, or a stage at which the display is lost.
+for scale, stage in (1, ""), (1.5, ""), (2, ""), (1, "splash"), (1, "help"), (1, "blink"):
     game = WaylandGame(sys.argv[1], scale)
     try:
-        play(game)
-        game.run("swaymsg", f"[con_id={game.name}] kill" if scale < 2 else "exit")
-        code, _, said = game.ended()
-        wanted = (0, []) if scale < 2 else (1, ["velmoran: the display is gone\n"])
-        assert (code, said) == wanted, (code, said)
+        if stage:
+            game.play_to(stage)
+            game.server.kill()
+        else:
+            play(game)
+            game.run("swaymsg", f"[con_id={game.name}] kill")
+        code, seconds, said = game.ended()
+        wanted = (1, ["velmoran: the display is gone\n"]) if stage else (0, [])
+        assert (code, said) == wanted and seconds < 0.5, (code, seconds, said)
     except BaseException:
-        print(f"At scale {scale}. The screen is kept in {sys.argv[1]}.png")
+        print(f"At scale {scale} {stage}. The screen is kept in {sys.argv[1]}.png")
         game.run("grim", sys.argv[1] + ".png")
         raise
     game.server.kill()
