@@ -50,6 +50,7 @@ function stop(reason) {
   if (reason != Ended) console.error(reason);
   if (!game) return;  // it never ran: the page's own sentence has stood there all the time
   game = undefined;
+  clearTimeout(alarm);
   box.close();
   main.innerHTML = '<p></p><button>Start again</button>';
   main.firstChild.textContent =
