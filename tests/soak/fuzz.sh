@@ -4,10 +4,11 @@
 # read; what the run finds stays in the build folder.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/../.."
+. tools/packages.sh
 build=${BUILD:-build-fuzz}
 
-cmake -S . -B "$build" -D CMAKE_CXX_COMPILER="${CXX:-clang++}" -D CMAKE_BUILD_TYPE=Release \
-  -D VELMORAN_DESKTOP=OFF -D VELMORAN_TESTS=ON -D VELMORAN_FUZZ=ON >/dev/null
+CXX=${CXX:-clang++} configure \
+  CMAKE_BUILD_TYPE=Release VELMORAN_DESKTOP=OFF VELMORAN_TESTS=ON VELMORAN_FUZZ=ON
 cmake --build "$build" --target fuzz
 mkdir -p "$build/corpus"
 exec "$build/tests/soak/fuzz" "$build/corpus" tests/soak/corpus -max_total_time="${1:-60}" -max_len=1000 \
