@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QString>
 #include <QtGlobal>
+#include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
@@ -23,41 +24,65 @@ constexpr int LeastDepth = 15;  // bits a pixel; on less Qt draws nothing
   std::_Exit(1);
 }
 
-/// What Qt has said so far of why it cannot start. A second platform may still do.
+/// What has been said so far of why no window can be opened. A second platform may still do.
 QString& Reasons() {
   static QString reasons;
   return reasons;
 }
 
-void KeepReason(QtMsgType type, const QMessageLogContext&, const QString& message) {
-  if (type == QtFatalMsg) Leave("no window can be opened" + Reasons());
-  Reasons() += (Reasons().isEmpty() ? ": " : "; ") + message.simplified();
+void KeepReason(const QString& reason) {
+  Reasons() += (Reasons().isEmpty() ? ": " : "; ") + reason.simplified();
 }
+
+[[noreturn]] void TellReasons() { Leave("no window can be opened" + Reasons()); }
 
 [[noreturn]] void TellLost() { Leave("the display is gone"); }
 
-void TellOthers(QtMsgType, const QMessageLogContext&, const QString& message) {
+void HearQt(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (message.contains("connection broke")) TellLost();
   // Qt 6.8 says so of its windows on Wayland at scales like 1.5, and has just set it straight.
   if (message.contains("device pixel ratio value was stale")) return;
   std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-int HandleXlibError(void*) { TellLost(); }
+void HearQtAtStart(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (type == QtDebugMsg || message.contains("connection broke"))
+    return HearQt(type, context, message);
+  // Its last words, of all the plugins that there are, are no reason.
+  if (!message.contains("no Qt platform plugin could be initialized")) KeepReason(message);
+  if (type == QtFatalMsg) TellReasons();
+}
+
+void HearWayland(const char* format, std::va_list values) {
+  qWarning("%s", qPrintable(QString::vasprintf(format, values).trimmed()));
+}
+
+int HearXlib(void*) { TellLost(); }
+
+/// A function of a library that Qt may use; null where there is none.
+template <typename Function>
+Function* Find(const char* library, int mode, const char* name) {
+  void* loaded = dlopen(library, RTLD_LAZY | mode);
+  return loaded ? reinterpret_cast<Function*>(dlsym(loaded, name)) : nullptr;
+}
 
 }  // namespace
 
-void ReportMissingDisplay() { qInstallMessageHandler(KeepReason); }
+void ReportMissingDisplay() {
+  qInstallMessageHandler(HearQtAtStart);
+  using Handler = void (*)(const char* format, std::va_list values);
+  const char* setter = "wl_log_set_handler_client";
+  if (auto* set = Find<void(Handler)>("libwayland-client.so.0", 0, setter)) set(HearWayland);
+}
 
 void ReportLostDisplay() {
-  const int depth = QGuiApplication::primaryScreen()->depth();
-  if (depth < LeastDepth) Leave(QString("a display of %1 bits has too few colours").arg(depth));
-  qInstallMessageHandler(TellOthers);
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  if (!screen) TellReasons();
+  if (screen->depth() < LeastDepth)
+    Leave(QString("a display of %1 bits has too few colours").arg(screen->depth()));
+  qInstallMessageHandler(HearQt);
   // On X11 it may be Xlib that notices first. Qt's plugin has loaded it then, and only then.
-  void* xlib = dlopen("libX11.so.6", RTLD_LAZY | RTLD_NOLOAD);
-  if (!xlib) return;
   using Handler = int (*)(void* display);
-  using Setter = Handler (*)(Handler);
-  const auto setHandler = reinterpret_cast<Setter>(dlsym(xlib, "XSetIOErrorHandler"));
-  if (setHandler) setHandler(HandleXlibError);
+  const char* setter = "XSetIOErrorHandler";
+  if (auto* set = Find<Handler(Handler)>("libX11.so.6", RTLD_NOLOAD, setter)) set(HearXlib);
 }

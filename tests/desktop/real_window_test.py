@@ -118,13 +118,15 @@ def end(game, *command):
 def display_lost(game):
     game.server.terminate()
     code, seconds, said = game.ended()
-    assert code > 0 and len(said) == 1, (code, seconds, said)
+    assert code > 0 and len(said) == 1 and seconds < 0.5, (code, seconds, said)
 
 
 def no_display(game):
     poor = Screen("640x480x8")
     for env, reason in (({}, "connect"), ({"DISPLAY": ":987654"}, ":987654"),
-                        ({"QT_QPA_PLATFORM": "nonsense"}, '"nonsense"'), (poor.env, "8 bits")):
+                        ({"XDG_SESSION_TYPE": "wayland"}, "connect"), (poor.env, "8 bits"),
+                        ({"QT_QPA_PLATFORM": "nonsense"}, '"nonsense"'),
+                        ({"QT_QPA_PLATFORM": "linuxfb:fb=/none"}, "/none")):
         done = subprocess.run(sys.argv[1:2], env=env, capture_output=True, text=True, timeout=8)
         assert done.returncode == 1 and done.stderr.count("\n") == 1 and not done.stdout, done
         assert reason in done.stderr, done
