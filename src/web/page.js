@@ -164,6 +164,10 @@ function watchPointer() {
 addEventListener('blur', cancelDrag);
 document.addEventListener('visibilitychange', () => document.hidden && cancelDrag());
 
+/// The letter of a key; where it has none of ours, as in Greek, what stands there on other keyboards.
+const letterOf = ({key, code}) =>
+  (/^[\x20-\x7e]+$/.test(key) ? key : code.replace('Key', '')).toUpperCase();
+
 document.addEventListener('keydown', event => {
   if (box.open) {
     // A click beside the button has taken the focus from it.
@@ -172,7 +176,8 @@ document.addEventListener('keydown', event => {
   } else {
     if (event.key == 'Escape') cancelDrag();
     if (!(event.ctrlKey || event.metaKey) || event.altKey || event.shiftKey) return;
-    const shortcut = find('nav kbd').find(kbd => kbd.textContent == 'Ctrl+' + event.key.toUpperCase());
+    const letter = letterOf(event);
+    const shortcut = find('nav kbd').find(kbd => kbd.textContent == 'Ctrl+' + letter);
     if (!shortcut) return;
     shortcut.parentNode.click();
   }
@@ -248,7 +253,8 @@ function watchMenu() {
       ArrowLeft: () => owner && ownerOf(owner) ? leaveMenu(owner) : goAlong(-1),
       Escape: () => owner ? leaveMenu(owner) : isOpen(item) ? openMenu(null) : view.focus(),
     };
-    const named = items.find(other => other.querySelector('u')?.textContent.toLowerCase() == event.key);
+    const letter = letterOf(event);
+    const named = items.find(other => other.querySelector('u')?.textContent.toUpperCase() == letter);
     const act = byKey[event.key] ?? (named && (() => named.click()));
     if (!act || event.ctrlKey || event.metaKey || event.altKey) return;
     act();
