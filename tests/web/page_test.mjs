@@ -317,6 +317,12 @@ check('a finger on a phone', async () => {
     devicePixelRatio, scrollX, scrollY, visualViewport.scale, getSelection().toString(),
     document.documentElement.scrollWidth,
   ]), [3, 0, 0, 1, '', 360]);
+  await page.setViewport({width: 320, height: 400});
+  await hand.shortcut('c');
+  assert(await page.evaluate(() => {
+    const [title, text, button] = find('h1, p, button', box).map(part => part.getBoundingClientRect());
+    return title.top > 0 && text.top > title.bottom && button.bottom < innerHeight;
+  }), 'title, text and button of a long box');
   await hand.close();
 });
 
