@@ -6,14 +6,21 @@
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
+#include <cmath>
 
 #include "toolkit/paragraphs.h"
 
 namespace {
 
-// Longer lines are paragraphs, which the box wraps by itself.
+// Longer lines are paragraphs, which the box wraps by itself: but only if it gets wider than 500
+// pixels. If not it shows them in one line each, cut.
 constexpr int LongestBrokenLine = 80;
-constexpr int ParagraphWidth = 400;
+constexpr double ParagraphWidth = 500;
+
+/// The widest that Qt lets a box be; what does not fit in there is cut.
+int WidestBox(int screenWidth) {
+  return screenWidth <= 1024 ? screenWidth : std::min(screenWidth - 480, 1000);
+}
 
 QMessageBox::Icon IconOf(MessageIcon icon) {
   switch (icon) {
@@ -31,25 +38,25 @@ QString TextOf(const std::string& text) {
   return QString::fromStdString(text).replace("\r\n", "\n");
 }
 
-int WidthFor(const QString& text, const QFontMetrics& metrics) {
-  int width = 0;
+int WidthFor(const QString& text, const QFontMetricsF& metrics) {
+  double width = 0;
   for (const QString& line : text.split('\n')) {
     const bool isParagraph = line.size() > LongestBrokenLine;
     width = std::max(width, isParagraph ? ParagraphWidth : metrics.horizontalAdvance(line));
   }
-  return width;
+  return static_cast<int>(std::ceil(width));
 }
 
 /// The box would wrap lines over 500 pixels, or over half of a small screen, and so break lines
 /// again that were broken by hand. Only where the screen is narrower than they are it has to.
-void KeepBrokenLines(QMessageBox& dialog, const std::string& text, int screenWidth) {
+void KeepBrokenLines(QMessageBox& dialog, const std::string& text, int room) {
   auto* label = dialog.findChild<QLabel*>("qt_msgbox_label");
   if (!label) return;
   label->setWordWrap(true);  // as it will be, so that what stands around it can be measured
   const int around = dialog.layout()->totalMinimumSize().width() - label->minimumSizeHint().width();
-  const int width = WidthFor(dialog.text(), label->fontMetrics());
-  label->setMinimumWidth(std::min(width, screenWidth - around));
-  if (width > screenWidth - around) dialog.setText(TextOf(JoinBrokenLines(text)));
+  const int width = WidthFor(dialog.text(), QFontMetricsF(label->font()));
+  label->setMinimumWidth(std::min(width, room - around));
+  if (width > room - around) dialog.setText(TextOf(JoinBrokenLines(text)));
 }
 
 }  // namespace
@@ -61,6 +68,7 @@ void ShowModal(const MessageBox& box, QWidget* window) {
   // Nobody knows its frame before the window manager has drawn it: the style's own is about as
   // wide.
   const int frame = dialog.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
-  KeepBrokenLines(dialog, box.Text, dialog.screen()->availableGeometry().width() - 2 * frame);
+  const int screenWidth = dialog.screen()->availableGeometry().width();
+  KeepBrokenLines(dialog, box.Text, WidestBox(screenWidth) - 2 * frame);
   dialog.exec();
 }

@@ -89,6 +89,17 @@ def small_screen(game):
     game.play_to("last_blink")
 
 
+def rules(game):
+    """Their paragraphs are wrapped, and end before the box does."""
+    game.do("key alt key Right key Down key r key 3")
+    _, left, top, width, height = until("the rules", lambda: game.window(".* .Part 3."))
+    text = left + 80, top + 10, width - 90, 100
+    until("their text", lambda: len(game.colours(*text)) > 2)
+    assert height > 150 and len(game.colours(left + width - 6, top + 10, 4, 100)) == 1, height
+    game.do("key Return")
+    game.move(9, 13)
+
+
 def double_jump(game, *path):
     for move in (12, 15), (7, 12), (10, 13), path:
         game.move(*move)
@@ -136,6 +147,7 @@ def no_display(game):
 CASES = {  # the stage to play to, what happens then, and what the game is started with
     "no_display": ("splash", no_display, {}), "whole": ("splash", whole, {}),
     "rest": ("blink", rest, {}), "help_holds_the_turn": ("blink", help_holds_the_turn, {}),
+    "rules": ("turn", rules, {"size": "1040x800x24"}),  # a hard width for a box of Qt's
     "double_jump": ("turn", lambda game: double_jump(game, 5, 14, 23), NOON),
     "double_jump_in_a_leap": ("turn", lambda game: double_jump(game, 5, 23), NOON)}
 for scale in "1", "1.5", "2":

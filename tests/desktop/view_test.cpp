@@ -2,13 +2,17 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 #include <QScreen>
+#include <QTimer>
 #include <random>
 
 #include "desktop/accessibility.h"
 #include "desktop/form_view.h"
+#include "desktop/message_box.h"
 #include "desktop/painting.h"
 #include "support/desk.h"
+#include "ui/messages.h"
 #include "ui/pictures.h"
 
 namespace {
@@ -123,6 +127,22 @@ TEST(View, KeepsACaptionInItsRoom) {
     EXPECT_LT(letters.boundingRect().right(), 435) << family;
     EXPECT_GT(letters.boundingRect().width(), 320) << family;
   }
+}
+
+TEST(MessageBox, BreaksNoLineThatIsBrokenByHand) {
+  Desk desk(StartPosition());
+  desk.host.OnBox = [](const MessageBox& box) {
+    QTimer::singleShot(0, [&box] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      const auto* label = dialog->findChild<QLabel*>("qt_msgbox_label");
+      EXPECT_EQ(label->heightForWidth(label->width()),
+                label->fontMetrics().size(0, label->text()).height())
+          << box.Title;
+      dialog->close();
+    });
+    ShowModal(box, nullptr);
+  };
+  for (const auto show : {mnuControls_Click, mnuAbout_Click}) show(desk.form);
 }
 
 TEST(View, TellsWhatStandsOnEachSquare) {
