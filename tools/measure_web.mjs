@@ -1,27 +1,20 @@
-// Measures what the page costs in both browsers: measure_web.mjs FOLDER [RUNS], with the build folder
-// that tests/web/run leaves. Printed are medians of runs made in turn: milliseconds from navigation
+// Measures what the page costs in both browsers: measure_web.mjs [RUNS], with the folder that
+// tests/web/run has built in as BUILD. Printed are medians of runs made in turn: milliseconds from navigation
 // to the first thing painted, of the page and of an empty one of the same size; microseconds of a
 // pointer event's whole round trip; milliseconds of processor time, of all processes of the browser,
 // over 10 s at rest (beside an empty page) and over a computer's turn; KiB of the program's memory.
 import {execFileSync} from 'node:child_process';
 import {readFileSync, statSync, writeFileSync} from 'node:fs';
-import {createRequire} from 'node:module';
-import {resolve} from 'node:path';
 import {pathToFileURL} from 'node:url';
 import {gzipSync} from 'node:zlib';
+import {folder, launch} from '../tests/web/browsers.mjs';
 
-const folder = resolve(process.argv[2]);
-const runs = Number(process.argv[3] ?? 5);
-const puppeteer = createRequire(folder + '/')('puppeteer-core');
+const runs = Number(process.argv[2] ?? 5);
 const page = `${folder}/velmoran.html`, empty = `${folder}/empty.html`;
 const size = statSync(page).size;
 const head = '<!DOCTYPE html><title>Empty</title><body><p>Empty</p><!--';
 writeFileSync(empty, head + '.'.repeat(size - head.length - 3) + '-->');
 
-const browsers = {
-  chrome: {executablePath: '/usr/bin/chromium', args: ['--no-sandbox']},
-  firefox: {executablePath: '/usr/bin/firefox-esr'},
-};
 const url = file => pathToFileURL(file).href;
 const rest = milliseconds => new Promise(done => setTimeout(done, milliseconds));
 const median = values => values.sort((a, b) => a - b)[Math.floor(values.length / 2)];
@@ -58,7 +51,7 @@ async function costOf(browser, milliseconds) {
 }
 
 async function measure(name) {
-  const browser = await puppeteer.launch({browser: name, ...browsers[name]});
+  const browser = await launch(name);
   const paints = {page: [], empty: []};
   for (let run = 0; run < runs; ++run) {
     paints.empty.push(await paintOf(browser, empty));
@@ -93,4 +86,4 @@ async function measure(name) {
 }
 
 console.log(`${size} bytes, ${gzipSync(readFileSync(page), {level: 9}).length} gzipped`);
-for (const name of Object.keys(browsers)) await measure(name);
+for (const name of ['chrome', 'firefox']) await measure(name);

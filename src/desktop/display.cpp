@@ -30,10 +30,6 @@ QString& Reasons() {
   return reasons;
 }
 
-void KeepReason(const QString& reason) {
-  Reasons() += (Reasons().isEmpty() ? ": " : "; ") + reason.simplified();
-}
-
 [[noreturn]] void TellReasons() { Leave("no window can be opened" + Reasons()); }
 
 [[noreturn]] void TellLost() { Leave("the display is gone"); }
@@ -49,10 +45,12 @@ void HearQtAtStart(QtMsgType type, const QMessageLogContext& context, const QStr
   if (type == QtDebugMsg || message.contains("connection broke"))
     return HearQt(type, context, message);
   // Its last words, of all the plugins that there are, are no reason.
-  if (!message.contains("no Qt platform plugin could be initialized")) KeepReason(message);
+  if (!message.contains("no Qt platform plugin could be initialized"))
+    Reasons() += (Reasons().isEmpty() ? ": " : "; ") + message.simplified();
   if (type == QtFatalMsg) TellReasons();
 }
 
+/// Its library would print this by itself, past Qt.
 void HearWayland(const char* format, std::va_list values) {
   qWarning("%s", qPrintable(QString::vasprintf(format, values).trimmed()));
 }

@@ -8,8 +8,8 @@
 
 int main(int, char** argv) {
   int argc = 1;  // the game takes no options, and Qt shall not take any either
-  // Otherwise the first window would have a message bus started for this game alone, and wait for
-  // that: for seconds, if the display is lost meanwhile.
+  // The user's own message bus, or none. Otherwise the first window would have one started for this
+  // game alone, and wait for that: for seconds, if the display is lost meanwhile.
   if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:runtime=yes");
   ReportMissingDisplay();

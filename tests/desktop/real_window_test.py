@@ -147,7 +147,7 @@ def no_display(game):
 CASES = {  # the stage to play to, what happens then, and what the game is started with
     "no_display": ("splash", no_display, {}), "whole": ("splash", whole, {}),
     "rest": ("blink", rest, {}), "help_holds_the_turn": ("blink", help_holds_the_turn, {}),
-    "rules": ("turn", rules, {"size": "1040x800x24"}),  # a hard width for a box of Qt's
+    "rules": ("turn", rules, {"size": "1040x800x24"}),  # where Qt leaves a box least room
     "double_jump": ("turn", lambda game: double_jump(game, 5, 14, 23), NOON),
     "double_jump_in_a_leap": ("turn", lambda game: double_jump(game, 5, 23), NOON)}
 for scale in "1", "1.5", "2":

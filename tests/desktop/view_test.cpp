@@ -129,22 +129,6 @@ TEST(View, KeepsACaptionInItsRoom) {
   }
 }
 
-TEST(MessageBox, BreaksNoLineThatIsBrokenByHand) {
-  Desk desk(StartPosition());
-  desk.host.OnBox = [](const MessageBox& box) {
-    QTimer::singleShot(0, [&box] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      const auto* label = dialog->findChild<QLabel*>("qt_msgbox_label");
-      EXPECT_EQ(label->heightForWidth(label->width()),
-                label->fontMetrics().size(0, label->text()).height())
-          << box.Title;
-      dialog->close();
-    });
-    ShowModal(box, nullptr);
-  };
-  for (const auto show : {mnuControls_Click, mnuAbout_Click}) show(desk.form);
-}
-
 TEST(View, TellsWhatStandsOnEachSquare) {
   Desk desk(Board("g... .... .... .... .... .... ...G bB.."));
   FormView view(desk.form.window);
@@ -164,6 +148,22 @@ TEST(View, TellsWhatStandsOnEachSquare) {
   EXPECT_EQ(nameOf(6), "blue king on square 6");
   const QPoint middle = board->child(5)->rect().center();
   EXPECT_EQ(board->childAt(middle.x(), middle.y()), board->child(5));
+}
+
+TEST(MessageBox, BreaksNoLineThatIsBrokenByHand) {
+  Desk desk(StartPosition());
+  desk.host.OnBox = [](const MessageBox& box) {
+    QTimer::singleShot(0, [&box] {
+      QWidget* dialog = QApplication::activeModalWidget();
+      const auto* label = dialog->findChild<QLabel*>("qt_msgbox_label");
+      EXPECT_EQ(label->heightForWidth(label->width()),
+                label->fontMetrics().size(0, label->text()).height())
+          << box.Title;
+      dialog->close();
+    });
+    ShowModal(box, nullptr);
+  };
+  for (const auto show : {mnuControls_Click, mnuAbout_Click}) show(desk.form);
 }
 
 }  // namespace

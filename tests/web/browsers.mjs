@@ -1,4 +1,4 @@
-// Starts the browsers, and opens the page in them.
+// The folder of the page, as BUILD, and the browsers that it is tried in.
 import {createRequire} from 'node:module';
 import {resolve} from 'node:path';
 
