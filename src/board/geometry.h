@@ -5,8 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 
-// Movement on the board as arithmetic on square numbers. Nothing here knows what stands on a
-// square.
+// Movement on the board as arithmetic on square numbers. Nothing here knows the pieces.
 //
 //   row 8     29    30    31    32      rows 2, 4, 6, 8 begin in column 2
 //   row 7  25    26    27    28         rows 1, 3, 5, 7 begin in column 1
@@ -14,20 +13,20 @@
 //   row 2      5     6     7     8
 //   row 1   1     2     3     4
 
-/// 1 to 32, along the rows from the bottom left to the top right; 0: no square.
+/// A dark square: 1 to 32, row by row from the bottom left to the top right. 0: no square.
 using Square = std::int16_t;
 
 constexpr int Squares = 32;
 
-/// Diagonal directions as they look on the screen. A direction and its way back add up to 5.
+/// Diagonal directions as seen on the screen. A direction and its opposite add up to 5.
 enum Direction : std::int32_t { NoDirection, UpLeft, UpRight, DownLeft, DownRight };
 
 constexpr std::array<Direction, 4> AllDirections{UpLeft, UpRight, DownLeft, DownRight};
 
-/// The way back along the same diagonal.
+/// The way back along the same diagonal. Of `NoDirection` it is 5, which `Neighbour` accepts.
 constexpr Direction Opposite(Direction direction) { return Direction(5 - direction); }
 
-/// How far a row's first square is shifted: 0 in rows 1, 3, 5, 7, 1 in rows 2, 4, 6, 8.
+/// The shift of the row that the square lies in: 0 in rows 1, 3, 5 and 7, 1 in rows 2, 4, 6 and 8.
 constexpr Square RowShift(Square square) {
   const int place = square % 8;
   return place >= 1 && place <= 4 ? 0 : 1;
@@ -39,12 +38,12 @@ constexpr bool IsWestEdge(Square square) { return square % 8 == 1; }
 /// Whether the square touches the right edge of the board: 8, 16, 24, 32.
 constexpr bool IsEastEdge(Square square) { return square % 8 == 0; }
 
-/// The value itself if it is a square of the board, else 0.
+/// The value itself if it is 1 to 32, else 0.
 constexpr Square ClampSquare(int value) {
   return value >= 1 && value <= Squares ? static_cast<Square>(value) : Square{0};
 }
 
-/// The answer of `Neighbour`, worked out.
+/// Computes what `Neighbour` answers.
 constexpr Square NeighbourByArithmetic(Square square, Direction direction) {
   if (square == 0) return 0;
   const int base = square + RowShift(square);
@@ -62,8 +61,8 @@ constexpr Square NeighbourByArithmetic(Square square, Direction direction) {
   }
 }
 
-/// The answers by square, from 0, and by direction. The rules ask for little else, and a processor
-/// foresees the branches of the arithmetic badly.
+/// `Neighbour` by square, 0 to 32, and direction, 0 to 5. Precomputed: this is the hottest look-up
+/// of the game, and the branches mispredict.
 constexpr auto Neighbours = [] {
   std::array<std::array<Square, 6>, Squares + 1> table{};
   for (int square = 0; square <= Squares; ++square) {
@@ -75,20 +74,20 @@ constexpr auto Neighbours = [] {
   return table;
 }();
 
-/// The square one diagonal step away; 0 off the board, from 0, or for no direction, as which the
-/// way back of none, 5, counts as well.
+/// The square one diagonal step away. 0 if there is none: off the board, from square 0, for
+/// `NoDirection` or for its opposite, 5.
 constexpr Square Neighbour(Square square, Direction direction) {
   assert(0 <= square && square <= Squares && 0 <= direction && direction <= 5);
   return Neighbours[std::size_t(square)][std::size_t(direction)];
 }
 
-/// The square two steps away in a straight line, where a jump lands; 0 where there is none.
+/// The square two steps away in a straight line, where a jump lands. 0 if there is none.
 constexpr Square LandingSquare(Square square, Direction direction) {
   return Neighbour(Neighbour(square, direction), direction);
 }
 
-/// The direction whose landing square from `from` is `to`, a real square; no direction if none is.
-/// For square 0 it names the last direction that has no landing square.
+/// The direction of a jump from `from` to `to`; `NoDirection` if no jump leads there. Call it with
+/// a real square: for `to` 0 it gives the last direction in which there is no landing square.
 constexpr Direction JumpDirection(Square from, Square to) {
   Direction found = NoDirection;
   for (Direction direction : AllDirections) {
@@ -97,8 +96,8 @@ constexpr Direction JumpDirection(Square from, Square to) {
   return found;
 }
 
-/// Whether a green man is crowned on the square: the bottom row, 1 to 4.
+/// Whether green men are crowned on the square: the bottom row, 1 to 4.
 constexpr bool IsGreenCrownSquare(Square square) { return square >= 1 && square <= 4; }
 
-/// Whether a blue man is crowned on the square: the top row, 29 to 32.
+/// Whether blue men are crowned on the square: the top row, 29 to 32.
 constexpr bool IsBlueCrownSquare(Square square) { return square >= 29 && square <= 32; }

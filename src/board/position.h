@@ -5,30 +5,30 @@
 #include "board/geometry.h"
 #include "board/table.h"
 
-constexpr int Pieces = 12;  // a side; a piece keeps its index, 1 to 12, for the whole game
+constexpr int Pieces = 12;  // per side; a piece keeps its index, 1 to 12, for the whole game
 
 /// Who stands on a square.
 enum Side : std::int32_t { Nobody, Blue, Green };
 
-/// In which directions a piece moves.
+/// The directions in which a piece may move.
 enum DirectionSetCode : std::int32_t { BlueManSet = 1, GreenManSet = 2, KingSet = 3 };
 
 /// The whole state of a game.
 struct Position {
-  Table<Square, Pieces> BlueSquare;   // by piece; 0 once it is captured
-  Table<Square, Pieces> GreenSquare;  // by piece; 0 once it is captured
+  Table<Square, Pieces> BlueSquare;   // by piece; 0: captured
+  Table<Square, Pieces> GreenSquare;  // by piece; 0: captured
   Table<bool, Pieces> BlueKing;       // a captured piece keeps its crown
   Table<bool, Pieces> GreenKing;
-  Table<Square, 10> JumpPath;  // the squares dragged over, from slot 1; 0: a free slot
+  Table<Square, 10> JumpPath;  // squares of the present drag, in order from slot 1; 0: free slot
   bool BlueToMove = false;
   bool GameOver = false;
-  bool NewGameRequested = false;  // outlives the set-up of the new game, until the next drag
+  bool NewGameRequested = false;  // stays set after the new game has begun, until the next drag
 
   bool operator==(const Position&) const = default;
 };
 
-/// Who stands on the square. Captured pieces hold square 0, so once there is one, 0 names a side:
-/// test for 0 first.
+/// Who stands on the square. Test for square 0 first: captured pieces are on it, so its owner may
+/// be a side.
 constexpr Side SquareOwner(const Position& position, Square square) {
   for (int piece = 1; piece <= Pieces; ++piece) {
     if (position.BlueSquare[piece] == square) return Blue;
@@ -42,7 +42,7 @@ constexpr Square VacantOrZero(const Position& position, Square square) {
   return square != 0 && SquareOwner(position, square) == Nobody ? square : Square{0};
 }
 
-/// The directions that the piece may use, captured or not.
+/// The directions in which the piece may move. A captured piece gets an answer, too.
 constexpr DirectionSetCode DirectionSet(const Position& position, int piece, bool isBlue) {
   if (isBlue) return position.BlueKing[piece] ? KingSet : BlueManSet;
   return position.GreenKing[piece] ? KingSet : GreenManSet;
@@ -62,8 +62,8 @@ constexpr std::span<const Direction> DirectionsOf(DirectionSetCode set) {
   return all;
 }
 
-/// Whether a piece on `square` could jump in this direction: an enemy on the next square, and the
-/// one behind it on the board and empty. False for square 0.
+/// Whether a piece on `square` can jump in this direction: the next square holds an enemy, and the
+/// square behind it exists and is empty. False for square 0.
 constexpr bool CanJump(const Position& position, Square square, Direction direction, Side enemy) {
   const Square over = Neighbour(square, direction);
   if (over == 0 || SquareOwner(position, over) != enemy) return false;
@@ -71,6 +71,6 @@ constexpr bool CanJump(const Position& position, Square square, Direction direct
   return landing != 0 && SquareOwner(position, landing) == Nobody;
 }
 
-/// Whether the tables agree with themselves: real squares or 0, and no two pieces on one square;
-/// the jump path without gaps.
+/// Whether the tables are valid: every entry is 0 to 32, no two pieces share a square, and the jump
+/// path has no gap.
 bool IsConsistent(const Position& position);

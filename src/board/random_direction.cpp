@@ -9,10 +9,10 @@ Square SquareOf(const Position& position, int piece, bool isBlue) {
   return isBlue ? position.BlueSquare[piece] : position.GreenSquare[piece];
 }
 
-/// For each direction of a set, in rising order, whether the piece can move that way.
+/// Whether the piece can move in each direction of its set, in the order of the set.
 using Openings = std::array<bool, 4>;
 
-/// Draws until a draw names an open direction. No draw if none is open.
+/// Draws until an open direction comes up. Draws nothing if none is open.
 Direction DrawOpening(Random& random, std::span<const Direction> directions,
                       const Openings& openings) {
   if (std::ranges::none_of(openings, [](bool isOpen) { return isOpen; })) return NoDirection;
@@ -33,7 +33,7 @@ Direction RandomJumpDirection(Random& random, const Position& position, int piec
   for (std::size_t entry = 0; entry < directions.size(); ++entry) {
     openings[entry] = CanJump(position, square, directions[entry], isBlue ? Green : Blue);
   }
-  // A man with a single jump does not draw; a king does.
+  // A man with only one jump takes no draw. A king always draws.
   if (set != KingSet && openings[0] != openings[1]) return directions[openings[0] ? 0 : 1];
   return DrawOpening(random, directions, openings);
 }

@@ -3,15 +3,15 @@
 #include "board/position.h"
 #include "toolkit/random.h"
 
-// A direction at random in which a piece can move; both also serve as the plain question whether it
-// can. How many random values each takes is part of the play: a draw that names a direction without
-// a move is thrown away and repeated.
+// A random direction in which a piece can move. Both functions also answer whether it can move at
+// all. The number of draws is part of the play: a draw that hits a closed direction is repeated.
 
-/// A direction in which the piece has a jump, none if it has none or is captured. `set` is the
-/// piece's own. A man draws only to choose between two jumps, a king until it names a jump.
+/// A direction in which the piece can jump. `NoDirection`, without a draw, if it has no jump or is
+/// captured. `set` is the piece's own `DirectionSet`. A man draws only if it has two jumps; a king
+/// draws until a jump comes up.
 Direction RandomJumpDirection(Random& random, const Position& position, int piece,
                               DirectionSetCode set, bool isBlue);
 
-/// A direction in which the piece has a step, none if it has none or is captured. Man and king both
-/// draw until they name a step, even where there is only one.
+/// A direction in which the piece can step. `NoDirection`, without a draw, if it has no step or is
+/// captured. Men and kings draw until a step comes up, even if there is only one.
 Direction RandomStepDirection(Random& random, const Position& position, int piece, bool isBlue);

@@ -4,7 +4,8 @@
 #include <cassert>
 #include <cstddef>
 
-/// A table whose first index is 1, as the squares and pieces are numbered. Its bounds are asserted.
+/// A table of `N` entries with indices 1 to `N`, like the squares and the pieces. An index out of
+/// range fails an assert.
 template <typename T, int N>
 class Table {
  public:

@@ -7,19 +7,19 @@
 
 enum MoveKind : std::int32_t { MoveKindStep = 1, MoveKindJump = 2 };
 
-/// One move of one green piece. A jump stands for the first jump of a chain.
+/// A step or a jump of a green piece. Of a chain it is the first jump.
 struct MoveRecord {
   std::int16_t Piece = 0;  // 1 to 12
   Square FromSquare = 0;
   ::Direction Direction = NoDirection;
   MoveKind Kind = MoveKindStep;
-  Square ToSquare = 0;  // the next square for a step, the landing square for a jump
+  Square ToSquare = 0;  // where the step or jump lands
 
   bool operator==(const MoveRecord&) const = default;
 };
 
-/// Moves in order, counted from 0. There is always at least one slot: an emptied list keeps it,
-/// with whatever stood in it. Otherwise there are exactly `Count` slots.
+/// A list of moves, indexed from 0. `Items` has exactly `Count` slots, but never less than one: an
+/// empty list keeps one slot with a stale record.
 struct MoveList {
   std::vector<MoveRecord> Items = std::vector<MoveRecord>(1);
   std::int16_t Count = 0;
@@ -31,16 +31,16 @@ MoveRecord MakeMoveRecord(int piece, Square fromSquare, Direction direction, Mov
 /// Appends a copy of the record.
 void MoveListAdd(MoveList& list, const MoveRecord& record);
 
-/// Removes the entry at the index, 0 to `Count` - 1; those behind it move down by one.
+/// Removes the entry at the index, 0 to `Count` - 1. Later entries move down by one.
 void MoveListRemoveAt(MoveList& list, int index);
 
-/// Gives the entries in random order and leaves the list empty. Draws one value for each entry, the
-/// last one included.
+/// Moves the entries to a new list in random order. `list` is empty afterwards. One draw per entry,
+/// also for the last one.
 MoveList ShuffleMoveList(Random& random, MoveList& list);
 
-/// Exchanges two entries.
+/// Exchanges the entries at two indices.
 void SwapMoves(MoveList& list, int first, int second);
 
-/// Every step and every first jump that green can make, by piece and direction in rising order;
-/// steps stand in it even when there is a jump. At most 48 entries.
+/// Every step and every first jump that green can make, ordered by piece, then by direction. Steps
+/// are listed even if there is a jump. 0 to 48 entries.
 MoveList ListGreenMoves(const Position& position);

@@ -25,7 +25,7 @@ bool IsBetterMove(const MoveMerits& first, const MoveMerits& second) {
   if (first.Kind != second.Kind) return second.Kind == MoveKindJump;
   if (first.Score != second.Score) return first.Score < second.Score;
   const bool isSecondSafe = second.DepthAtTo == 0;
-  // An attack by the first alone decides nothing: the second may still come forward below.
+  // If only the first attacks, nothing is decided yet: the second may still win below.
   const bool isFirstSafeAttack = first.DepthAtTo == 0 && first.Attacks;
   if (isSecondSafe && second.Attacks && !isFirstSafeAttack) return true;
   if (first.IsSafeCrowning != second.IsSafeCrowning) return second.IsSafeCrowning;
@@ -34,8 +34,8 @@ bool IsBetterMove(const MoveMerits& first, const MoveMerits& second) {
   return !first.TrapsAtTo && second.TrapsAtTo;
 }
 
-/// A bubble sort, pass by pass to the end: with a comparison that is no strict order, any other
-/// sort would give other moves.
+/// A bubble sort without an early exit. `IsBetterMove` is no strict order, so any other sort would
+/// choose other moves.
 void SortMoveList(const Position& position, MoveList& list, const ErrorReport& reportError) {
   const int count = list.Count;
   std::vector<MoveMerits> merits;

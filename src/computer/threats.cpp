@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The index of the piece on a real square; 0 if there is none, or for square 0.
+/// The index of the piece on the square. 0 if there is none, or for square 0.
 int PieceOn(const Table<Square, Pieces>& squares, Square square) {
   if (square == 0) return 0;
   for (int piece = 1; piece <= Pieces; ++piece) {
@@ -21,12 +21,12 @@ bool BlueMayMove(const Position& position, int blue, Direction direction) {
   return MayMove(DirectionSet(position, blue, true), direction);
 }
 
-/// Whether nobody stands on the square once the piece has left it.
+/// Whether the square is free, or is the one that the piece is leaving.
 bool IsFreeWithout(const Position& position, Square square, int piece) {
   return SquareOwner(position, square) == Nobody || square == position.GreenSquare[piece];
 }
 
-/// The blue piece that could jump over `square` in this direction; 0 if there is none.
+/// The blue piece that could jump over `square` in this direction. 0 if there is none.
 int BlueAttacker(const Position& position, Square square, Direction direction, int piece) {
   const Square landing = Neighbour(square, direction);
   if (landing == 0) return 0;
@@ -35,8 +35,9 @@ int BlueAttacker(const Position& position, Square square, Direction direction, i
   return IsFreeWithout(position, landing, piece) ? blue : 0;
 }
 
-/// Whether blue, having landed on `square` in this direction, could jump on. The moved piece has
-/// left its square free. The crown that the landing may bring does not count yet.
+/// Whether the blue piece could jump again after it has landed on `square` in this direction. The
+/// square that the moved piece has left counts as free. A man that lands on its crown row still
+/// counts as a man.
 bool BlueCanJumpOn(const Position& position, Square square, Direction direction, int blue,
                    int piece) {
   for (Direction onward : DirectionsOf(DirectionSet(position, blue, true))) {
@@ -49,8 +50,8 @@ bool BlueCanJumpOn(const Position& position, Square square, Direction direction,
   return false;
 }
 
-/// Whether the blue piece that took a friend and landed on `from` could take another one, the moved
-/// piece on `to` included. `back` leads to the friend just taken.
+/// Whether the blue piece could jump again after it has captured a friend and landed on `from`. It
+/// may also capture the moved piece on `to`. `back` leads to the friend just captured.
 bool ExposesSecond(const Position& position, Square from, Square to, Direction back, int blue) {
   for (Direction onward : DirectionsOf(DirectionSet(position, blue, true))) {
     if (onward == back) continue;
@@ -61,7 +62,7 @@ bool ExposesSecond(const Position& position, Square from, Square to, Direction b
   return false;
 }
 
-/// Who would jump over a blue king that has stepped to a square.
+/// Whether green could capture a blue king that steps to a square.
 struct Cover {
   bool IsCovered = false;
   bool ByMovedPiece = false;
@@ -75,7 +76,7 @@ Cover CoverOf(const Position& position, Square escape, int piece, Square to) {
     const bool isMovedPiece = from == to;
     const int green = isMovedPiece ? piece : PieceOn(position.GreenSquare, from);
     if (green == 0 || (green == piece && !isMovedPiece)) continue;
-    // A man that has arrived on a crown square counts as the king that it is about to be.
+    // A man on a crown square counts as a king: it is about to be crowned.
     if (!MayMove(DirectionSet(position, green, false), direction) && !IsGreenCrownSquare(from)) {
       continue;
     }
@@ -128,7 +129,7 @@ int ExposureDepth(const Position& position, Square from, Square to, int piece) {
   for (Direction direction : AllDirections) {
     const Square next = Neighbour(from, direction);
     const int friendly = PieceOn(position.GreenSquare, next);
-    // Only a landing on the square just left can make the difference.
+    // Only a capture that lands on the square just left is new.
     const int blue = PieceOn(position.BlueSquare, LandingSquare(from, direction));
     if (friendly == 0 || blue == 0 || BlueCanCapture(position, next, friendly) ||
         !BlueCanCapture(position, next, piece)) {

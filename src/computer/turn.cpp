@@ -8,7 +8,7 @@
 
 namespace {
 
-/// One blink followed by one step or one jump.
+/// A part of a move: one blink, then one step or one jump.
 struct Stage {
   Square TargetSquare = 0;
   Square JumpedSquare = 0;  // 0: a step
@@ -19,7 +19,7 @@ Stage FirstStage(const MoveRecord& move) {
   return {move.ToSquare, isJump ? Neighbour(move.FromSquare, move.Direction) : Square{0}};
 }
 
-/// The next jump of a chain, chosen at random; none if the piece cannot jump on.
+/// The next jump of a chain, chosen at random. Nothing if the piece cannot jump again.
 std::optional<Stage> NextStage(frmVelmoran& form, int piece) {
   const Position& position = form.position;
   const Square square = position.GreenSquare[piece];
@@ -29,8 +29,8 @@ std::optional<Stage> NextStage(frmVelmoran& form, int piece) {
   return Stage{LandingSquare(square, direction), Neighbour(square, direction)};
 }
 
-/// Sleeps through the blink of a stage. New Game, which may arrive meanwhile, clears `BlinkStarted`
-/// and stops the timer: the blink asked for once more does not start then, and the wait is over.
+/// Waits until the blink of a stage has ended. If New Game comes meanwhile, it stops the timer and
+/// clears `BlinkStarted`. `StartBlink` then does nothing, so the wait ends.
 void WaitForBlink(frmVelmoran& form, int piece) {
   for (;;) {
     if (!form.BlinkStarted) {
@@ -44,7 +44,7 @@ void WaitForBlink(frmVelmoran& form, int piece) {
 }
 
 void PlayStage(frmVelmoran& form, int piece, const Stage& stage) {
-  // The jumped piece goes first, or the next jump could take it twice.
+  // The jumped piece goes first: otherwise the next jump could capture it again.
   if (stage.JumpedSquare != 0) RemoveCheckerAt(form, stage.JumpedSquare);
   MoveGreenChecker(form, piece, stage.TargetSquare);
 }
@@ -69,7 +69,7 @@ void ComputerTurn(frmVelmoran& form) {
   std::optional<Stage> stage = FirstStage(*move);
   while (stage) {
     WaitForBlink(form, piece);
-    if (form.position.NewGameRequested) return;  // the board is that of the new game
+    if (form.position.NewGameRequested) return;  // the board already shows the new game
     PlayStage(form, piece, *stage);
     stage = stage->JumpedSquare != 0 ? NextStage(form, piece) : std::nullopt;
   }

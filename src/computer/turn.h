@@ -2,10 +2,11 @@
 
 #include "game/main_form.h"
 
-/// The tick of the pause after the human's move: the whole of the computer's turn runs inside it.
+/// The tick of `tmrPause`, 500 milliseconds after the human's move. The whole computer turn runs
+/// inside it.
 void tmrPause_Timer(frmVelmoran& form);
 
-/// Green's turn: chooses a move, shows each stage with a blink, jumps on for as long as the piece
-/// can, and gives the move back. It pumps events while a blink runs, and returns without touching
-/// the board if a new game has come in meanwhile. Announces the end if green cannot move.
+/// Green's turn. Chooses a move and plays it stage by stage, each after a blink, with every further
+/// jump that the piece can make. Then it is blue's turn. Events are handled during the blinks: if
+/// New Game comes, it returns and leaves the board alone. If green cannot move, the game ends.
 void ComputerTurn(frmVelmoran& form);

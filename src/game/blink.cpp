@@ -15,7 +15,7 @@ const Picture* HighlightedPicture(const frmVelmoran& form, int piece) {
 
 void StartBlink(frmVelmoran& form, int piece) {
   if (form.position.NewGameRequested) return;
-  // A new game may have stopped the blink before in the middle.
+  // A new game may have stopped the previous blink halfway.
   if (form.BlinkCount != 0) {
     form.imgGreenChecker[form.BlinkChecker].Picture = PlainGreenPicture(form, form.BlinkChecker);
   }

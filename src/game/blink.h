@@ -2,12 +2,11 @@
 
 #include "game/main_form.h"
 
-// Before each stage of its move, and once at the end, the green piece blinks: five ticks of 200
-// milliseconds. The fifth ends the stage, and the last blink of a turn opens the human's.
+// The green piece blinks before each stage of its move and once after the last: five ticks of 200
+// milliseconds. The fifth tick ends the blink. After the last blink of a turn the human may move.
 
-/// Starts a blink of the green piece and returns at once. While a new game is requested it does
-/// nothing.
+/// Starts a blink of the green piece and returns at once. Does nothing while `NewGameRequested`.
 void StartBlink(frmVelmoran& form, int piece);
 
-/// The tick of a blink.
+/// The tick of `tmrBlink`: changes the picture, and finishes the blink at the fifth tick.
 void tmrBlink_Timer(frmVelmoran& form);

@@ -3,8 +3,9 @@
 #include "board/position.h"
 #include "toolkit/toolkit.h"
 
-/// The main form: the position and the controls side by side. `ui/main_window` fills the controls
-/// in; the procedures of the game read and write all of it directly.
+/// The main form: the position and the controls side by side. `ui/main_window` fills in the
+/// controls. The procedures of the game read and write all members directly. The toolkit must
+/// outlive the form.
 struct frmVelmoran {
   explicit frmVelmoran(Toolkit& programToolkit) : toolkit(programToolkit) {}
   frmVelmoran(const frmVelmoran&) = delete;
@@ -20,7 +21,7 @@ struct frmVelmoran {
   Table<Control, Pieces> imgGreenChecker;
   Control lblBackround;
 
-  // Never shown: they keep the pictures for the images.
+  // Never shown. They hold the pictures that the images show.
   Control picBlueCheckerREF;
   Control picGreenCheckerREF;
   Control picBlueKingREF;
@@ -28,32 +29,33 @@ struct frmVelmoran {
   Control picGreenCheckerHighlightREF;
   Control picGreenKingHighlightREF;
 
-  TimerControl tmrBlink;  // on: a blink is running
-  TimerControl tmrPause;
+  TimerControl tmrBlink;  // on while a blink runs
+  TimerControl tmrPause;  // on from the human's move to the end of the computer's turn
 
-  int BlinkCount = 0;         // ticks of the blink so far; 5 after a whole one
-  int BlinkChecker = 0;       // the green piece that blinks or blinked last; 0 before the first
-  bool BlinkStarted = false;  // the computer's turn waits for the blink of its present stage
+  int BlinkCount = 0;         // ticks of the present blink; 5 once it has ended
+  int BlinkChecker = 0;       // the green piece that blinks or blinked last; 0: none yet
+  bool BlinkStarted = false;  // the computer's turn is waiting for a blink
 
-  // The events of the control arrays.
+  // Shared by all elements of a control array.
   ControlEvents lblSquareEvents;
   ControlEvents imgBlueCheckerEvents;
   ControlEvents imgGreenCheckerEvents;
   ControlEvents lblBackroundEvents;
 };
 
-/// Puts the image over the label of the square.
+/// Puts the image over the label of the square, 1 to 32.
 void PlaceImage(const frmVelmoran& form, Control& image, Square square);
 
-/// Switches dragging for all blue images, hidden ones included: 1 lets the human take a piece.
+/// Sets `DragMode` of all blue images, also of hidden ones. 1: the human can drag; 0: cannot.
 void SetBlueDragMode(frmVelmoran& form, int dragMode);
 
-/// The picture of a green piece at rest.
+/// The picture of a green piece that is not lit: man or king.
 const Picture* PlainGreenPicture(const frmVelmoran& form, int piece);
 
-/// Whether the tables agree with themselves and with what the window shows: each piece visible on
-/// its square with a picture of its rank, captured ones hidden.
+/// Whether the tables are valid and the window shows what they say: each piece on its square with a
+/// picture of its rank, captured pieces hidden.
 bool IsConsistent(const frmVelmoran& form);
 
-/// Tells the user of a fault that consistent tables rule out. Play goes on afterwards.
+/// Shows the message for an internal error, which cannot happen while the tables are consistent.
+/// Play goes on afterwards.
 void ShowProgramError(Toolkit& toolkit, int number);

@@ -37,14 +37,14 @@ void Form_Load(frmVelmoran& form) {
   form.position.BlueToMove = true;
   ClearJumpPath(form);
   FinishTurn(form);
-  // Only now: the draws of the turn end above still belong to the sequence of the game before.
+  // Only now: the draws of `FinishTurn` above still belong to the previous game's sequence.
   form.toolkit.random.Randomize(form.toolkit.Timer());
   form.position.GameOver = false;
   form.BlinkStarted = false;
 }
 
 void mnuGame_Click(frmVelmoran& form) {
-  // First of all, so that whatever runs from here on, an interrupted turn included, can see it.
+  // This comes first, so that an interrupted turn sees it.
   form.position.NewGameRequested = true;
   form.toolkit.SetEnabled(form.tmrBlink, false);
   form.toolkit.SetEnabled(form.tmrPause, false);

@@ -2,15 +2,15 @@
 
 #include "game/main_form.h"
 
-/// Sets up a game: the load event of the form, and the whole of a new game later on. It leaves
-/// `NewGameRequested` and the timers alone, so that a turn it has interrupted still finds out.
+/// The form's load event: sets up the start position and reseeds the random sequence. It does not
+/// clear `NewGameRequested`, so that an interrupted computer turn still sees the request.
 void Form_Load(frmVelmoran& form);
 
-/// New Game, at any moment, also from inside the wait of the computer's turn.
+/// New Game. It may come at any moment, also while the computer's turn waits.
 void mnuGame_Click(frmVelmoran& form);
 
-/// Exit: the program ends at once, without a question.
+/// Exit: ends the program at once, without a question.
 void mnuExit_Click(frmVelmoran& form);
 
-/// The window is closed: the program ends at once.
+/// The user closes the window: ends the program at once.
 void Form_Unload(frmVelmoran& form);

@@ -2,20 +2,20 @@
 
 #include "game/main_form.h"
 
-// What any turn does to a piece, in the tables and on the screen at once.
+// Changes of a piece, in the tables and on the screen together. `piece` is 1 to 12.
 
-/// Places a blue piece on a square.
+/// Moves a blue piece to a square, 1 to 32. Whether it is free is not checked.
 void MoveBlueChecker(frmVelmoran& form, int piece, Square square);
 
-/// Places a green piece on a square.
+/// Moves a green piece to a square, 1 to 32. Whether it is free is not checked.
 void MoveGreenChecker(frmVelmoran& form, int piece, Square square);
 
-/// Takes the piece on the square, of either colour, off the board. It keeps its crown.
-/// Square 0 changes nothing.
+/// Takes the piece of either colour off the square. Its king flag stays. Does nothing for a free
+/// square or square 0.
 void RemoveCheckerAt(frmVelmoran& form, Square square);
 
-/// Makes a piece a king, which it may be already.
+/// Makes the piece a king. It may be one already.
 void CrownChecker(frmVelmoran& form, int piece, bool isBlue);
 
-/// Forgets the squares dragged over.
+/// Empties the jump path.
 void ClearJumpPath(frmVelmoran& form);

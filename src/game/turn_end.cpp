@@ -22,8 +22,8 @@ PieceCounts CrownAndCount(frmVelmoran& form) {
   return counts;
 }
 
-/// Asks all twelve pieces for a step and for a jump: the random values that this takes are part of
-/// the play of every game, so the search must not stop at the first piece that can move.
+/// Asks all twelve pieces for a step and a jump. It must not stop at the first piece that can move:
+/// the draws of all twelve are part of the play.
 bool CanBlueMove(frmVelmoran& form) {
   const Position& position = form.position;
   Random& random = form.toolkit.random;
@@ -50,7 +50,7 @@ bool FinishTurn(frmVelmoran& form) {
     SetBlueDragMode(form, 0);
     return true;
   }
-  // Only the end of the computer's move finds blue to move: after its own, green moves first.
+  // `BlueToMove` is only true after the computer's move. After blue's own move green goes first.
   if (!CanBlueMove(form) && form.position.BlueToMove) {
     form.toolkit.SetEnabled(form.tmrPause, false);
     AnnounceGameEnd(form, "Blue cannot move!  YOU LOSE!!!");

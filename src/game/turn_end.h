@@ -2,12 +2,12 @@
 
 #include "game/main_form.h"
 
-// The end of every move and of every blink: crowns, counts, and announces the end of a game.
+// What happens at the end of every human move and of every blink.
 
-/// Crowns and counts the pieces, asks whether blue can still move, and announces the end of the
-/// game with a message. True if the game has ended because a side has no piece left; false also
-/// when blue is told that it cannot move. Takes random values even when nobody needs the answer.
+/// Crowns and counts the pieces, finds out whether blue can move, and announces the end of the game
+/// if there is one. True if a side has no piece left. False otherwise, also when blue cannot move.
+/// Draws random values even if the answer is not used.
 bool FinishTurn(frmVelmoran& form);
 
-/// Announces the end of a game. The game is over once the user has closed the message.
+/// Shows a "Game Over" message. `GameOver` is set once the user has closed it.
 void AnnounceGameEnd(frmVelmoran& form, const char* text);

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// The plain test in two directions of the piece.
+/// Judges a single step or jump, in each direction in which the piece may move.
 BlueMove ClassifyHop(const Position& position, Square from, Square to, DirectionSetCode set) {
   for (Direction direction : DirectionsOf(set)) {
     const Square next = Neighbour(from, direction);
@@ -14,12 +14,14 @@ BlueMove ClassifyHop(const Position& position, Square from, Square to, Direction
   return BlueMoveNone;
 }
 
-/// A friend on a landing square blocks the hop; the moving piece itself has left its own square.
+/// A friend on the landing square blocks a jump. The moving piece itself does not: it has left its
+/// square.
 bool IsFriendOn(const Position& position, Square square, int piece) {
   return SquareOwner(position, square) == Blue && position.BlueSquare[piece] != square;
 }
 
-/// Whether the jump path and the drop make a chain. Takes the drop square off the end of the path.
+/// Whether the jump path and the drop make a chain. Removes the drop square from the end of the
+/// path.
 bool WalkJumpPath(Position& position, Square from, Square to, int piece) {
   Square current = from;
   for (int i = 1; i <= 10; ++i) {
@@ -31,7 +33,7 @@ bool WalkJumpPath(Position& position, Square from, Square to, int piece) {
       current = next;
       continue;
     }
-    // Past the end the hop fails when it leads from the drop square to itself: the path is there.
+    // A path that ends on the drop square is complete: the last hop, onto itself, is no jump.
     if (!isPastEnd || position.JumpPath[i - 1] != to) return false;
     position.JumpPath[i - 1] = 0;
     const bool isSingleJump = i - 1 == 1;

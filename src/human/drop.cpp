@@ -9,10 +9,10 @@ namespace {
 
 bool IsBluePiece(const Control& source) { return source.Name == "imgBlueChecker"; }
 
-/// The square that a jump from `from` to `to` crosses; 0 if that is no jump.
+/// The square that a jump from `from` to `to` crosses. 0 if no jump leads there.
 Square SquareBetween(Square from, Square to) { return Neighbour(from, JumpDirection(from, to)); }
 
-/// Asks all twelve pieces, because the random values that each question takes are part of the play.
+/// Asks all twelve pieces: the draws of each are part of the play.
 bool BlueHasJump(frmVelmoran& form) {
   const Position& position = form.position;
   bool hasJump = false;
@@ -25,7 +25,7 @@ bool BlueHasJump(frmVelmoran& form) {
   return hasJump;
 }
 
-/// False if a jump has to be made instead; the user has been told.
+/// False if a jump must be made instead. The message has been shown then.
 bool PlayStep(frmVelmoran& form, int piece, Square to) {
   if (BlueHasJump(form)) {
     form.toolkit.MsgBox(
@@ -45,8 +45,8 @@ void RemoveJumped(frmVelmoran& form, Square from, Square to, int errorNumber) {
   RemoveCheckerAt(form, between);
 }
 
-/// Carries out the jumps of the path and the last one to `to`. False if the path does not start
-/// with a jump; nothing has moved then.
+/// Carries out the jumps of the path and the last jump to `to`. False if the path does not start
+/// with a jump: then no piece moves, and the path is emptied.
 bool PlayChain(frmVelmoran& form, int piece, Square to) {
   const Position& position = form.position;
   const auto& path = position.JumpPath;
@@ -65,7 +65,7 @@ bool PlayChain(frmVelmoran& form, int piece, Square to) {
   return true;
 }
 
-/// Carries out a drop that has been judged. False if nothing has moved.
+/// Carries out a move. False if no piece has moved.
 bool PlayMove(frmVelmoran& form, BlueMove move, int piece, Square to) {
   switch (move) {
     case BlueMoveStep:

@@ -2,12 +2,12 @@
 
 #include "game/main_form.h"
 
-// The human's move: all of it happens when the button is released.
+// The human's move. Nothing on the board changes before the button is released.
 
-/// A piece is let go on the label of a square: judges the drop, refuses it without a change or
-/// carries it out, ends the turn and readies the computer's.
+/// A piece is dropped on the label of square `index`. An illegal drop changes nothing on the board;
+/// a legal one is carried out, and the computer's turn begins after the pause.
 void lblSquare_DragDrop(frmVelmoran& form, Square index, const Control& source);
 
-/// A piece is let go on a blue piece: only a king that ends a circle of jumps on its own square
-/// moves by that.
+/// A piece is dropped on blue piece `index`. Only one such drop is a move: a king that jumps in a
+/// circle may end on its own square.
 void imgBlueChecker_DragDrop(frmVelmoran& form, int index, const Control& source);

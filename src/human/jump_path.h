@@ -2,12 +2,14 @@
 
 #include "game/main_form.h"
 
-// The memory of a drag: the landing squares that the pointer has passed, by geometry alone. Whether
-// they make a chain of jumps is judged at the drop.
+// The jump path records the landing squares that a drag passes. Only geometry counts here. Whether
+// they make a chain of jumps is decided at the drop.
 
-/// A drag of a blue piece passes over the square, which may enter the jump path.
+/// A drag of blue piece `source` passes over square `index`. The square is added to the jump path
+/// if a jump from the end of the path could land there, and if that jump would not cross a square
+/// for the second time. A full path stays as it is.
 void lblSquare_DragOver(frmVelmoran& form, Square index, const Control& source);
 
-/// A drag passes over a blue piece: it counts as passing over its square, and the first one after a
-/// new game readies the computer for its turn.
+/// A drag passes over blue piece `index`: the same as passing over its square. It also clears
+/// `NewGameRequested`, because the human has begun to play the new game.
 void imgBlueChecker_DragOver(frmVelmoran& form, int index, const Control& source);
