@@ -25,9 +25,3 @@ constexpr bool Contains(const Rect& rect, Point point) {
   return point.X >= rect.Left && point.X < rect.Left + rect.Width && point.Y >= rect.Top &&
          point.Y < rect.Top + rect.Height;
 }
-
-/// Whether the rectangles share a point.
-constexpr bool Overlap(const Rect& a, const Rect& b) {
-  return a.Left < b.Left + b.Width && b.Left < a.Left + a.Width && a.Top < b.Top + b.Height &&
-         b.Top < a.Top + a.Height;
-}

@@ -16,66 +16,11 @@ const ControlEvents* EventsOf(const Form& form, const Control* control) {
 
 int IndexOf(const Control* control) { return control ? control->Index : 0; }
 
-/// Steps of a line, from `First` to the one before `End`; there may be none.
-struct StepRange {
-  int First = 0;
-  int End = 0;
-};
-
-/// A straight way in steps of a pixel. Each step is rounded towards `From`, in both coordinates.
-struct Line {
-  Point From;
-  Point To;
-  int Steps = 0;  // the last one is `To`
-
-  /// The steps that lie in the rectangle.
-  StepRange Inside(const Rect& rect) const {
-    const StepRange across = Between(From.X, To.X, rect.Left, rect.Left + rect.Width);
-    const StepRange down = Between(From.Y, To.Y, rect.Top, rect.Top + rect.Height);
-    return {std::max(across.First, down.First), std::min(across.End, down.End)};
-  }
-
- private:
-  /// The steps at which a coordinate lies in `low` to `high` - 1.
-  StepRange Between(int from, int to, int low, int high) const {
-    const int way = std::abs(to - from);
-    if (from <= to) return {StepReaching(low - from, way), StepReaching(high - from, way)};
-    return {StepReaching(from - high + 1, way), StepReaching(from - low + 1, way)};
-  }
-
-  /// The first step at which a coordinate has gone so far of its whole way.
-  int StepReaching(int distance, int way) const {
-    if (distance <= 0) return 0;
-    if (distance > way) return Steps + 1;
-    // A pointer far off the screen would overflow an int.
-    return static_cast<int>((std::int64_t{distance} * Steps + way - 1) / way);
-  }
-};
-
-Line MakeLine(Point from, Point to) {
-  const int way = std::max(std::abs(to.X - from.X), std::abs(to.Y - from.Y));
-  return {from, to, (way + TwipsPerPixel - 1) / TwipsPerPixel};
-}
-
-/// A control that a line enters, whether it is in front there or not.
-struct Crossing {
-  const Control* Entered = nullptr;
-  StepRange Steps;
-};
-
-/// From front to back.
-std::vector<Crossing> CrossingsOf(const Form& form, const Line& line) {
-  const auto [left, right] = std::minmax(line.From.X, line.To.X);
-  const auto [top, bottom] = std::minmax(line.From.Y, line.To.Y);
-  const Rect box{left, top, right - left + 1, bottom - top + 1};
-  std::vector<Crossing> crossings;
-  crossings.reserve(form.Controls.size());
-  for (const Control* control : form.Controls) {
-    if (!control->Visible || !Overlap(RectOf(*control), box)) continue;
-    const StepRange steps = line.Inside(RectOf(*control));
-    if (steps.First < steps.End) crossings.push_back({control, steps});
-  }
-  return crossings;
+/// How far outside the client area the point lies, in twips; 0 or less: inside.
+std::int64_t DistanceOutside(const Form& form, Point point) {
+  const std::int64_t x = point.X;
+  const std::int64_t y = point.Y;
+  return std::max({-x, x - form.Width + 1, -y, y - form.Height + 1});
 }
 
 }  // namespace
@@ -88,25 +33,21 @@ const Control* ControlAt(const Form& form, Point point) {
 }
 
 std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to) {
-  // A button mostly goes down or up where the pointer has been already.
-  if (from == to && IsInside(form, to)) return {ControlAt(form, to)};
-  const Line line = MakeLine(from, to);
-  const std::vector<Crossing> crossings = CrossingsOf(form, line);
-  const StepRange inside = line.Inside({0, 0, form.Width, form.Height});
+  // An int would overflow where the pointer is far off the screen.
+  const std::int64_t across = std::int64_t{to.X} - from.X;
+  const std::int64_t down = std::int64_t{to.Y} - from.Y;
+  const std::int64_t way = std::max(std::abs(across), std::abs(down));
+  const std::int64_t steps = std::max<std::int64_t>(1, (way + TwipsPerPixel - 1) / TwipsPerPixel);
   std::vector<const Control*> seen;
-  seen.reserve(crossings.size() + 1);
-  for (int step = inside.First; step < inside.End;) {
-    const Control* front = nullptr;
-    int change = inside.End;  // the next step at which another control may be in front
-    for (const auto& [control, steps] : crossings) {
-      if (step >= steps.End) continue;
-      change = std::min(change, step < steps.First ? steps.First : steps.End);
-      if (step < steps.First) continue;
-      front = control;
-      break;
-    }
+  for (std::int64_t step = 0; step <= steps;) {
+    const Point at{static_cast<int>(from.X + across * step / steps),
+                   static_cast<int>(from.Y + down * step / steps)};
+    const std::int64_t outside = DistanceOutside(form, at);
+    // A step goes no further than a pixel, so nothing is missed by a leap to the edge.
+    step += std::max<std::int64_t>(1, outside / TwipsPerPixel);
+    if (outside > 0) continue;
+    const Control* front = ControlAt(form, at);
     if (std::ranges::find(seen, front) == seen.end()) seen.push_back(front);
-    step = change;
   }
   return seen;
 }

@@ -8,8 +8,10 @@
 /// The frontmost visible control that contains the point; empty where none does.
 const Control* ControlAt(const Form& form, Point point);
 
-/// The controls that the straight line crosses, both ends included, each once and in order.
-/// An empty entry stands for the bare form; what lies outside the client area is left out.
+/// The controls that lie in front along the straight line, both ends included, each once and in
+/// order. The line is walked in equal steps of at most a pixel, as few as that takes, and each
+/// point is rounded towards the start. An empty entry stands for the bare form; what lies outside
+/// the client area is left out. The points may lie anywhere.
 std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to);
 
 /// Turns presses, movements and releases into the events of the controls, and keeps the drag.

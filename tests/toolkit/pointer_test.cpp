@@ -3,26 +3,30 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <limits>
 #include <random>
 
 #include "toolkit/shown_form.h"
 
 namespace {
 
-/// A form with controls anywhere, some of them hidden.
+constexpr int Pixel = TwipsPerPixel;
+
+/// A form with controls on any pixels, some of them hidden.
 class AnyForm : public testing::Test {
  protected:
   AnyForm() {
-    form.Width = form.Height = 900;
+    form.Width = form.Height = 20 * Pixel;
     for (Control& control : controls) form.Controls.push_back(&control);
   }
 
   int Between(int low, int high) { return std::uniform_int_distribution(low, high)(generator); }
-  Point AnyPoint() { return {Between(-600, 1500), Between(-600, 1500)}; }
 
   void Scatter() {
+    const auto pixels = [this](int low, int high) { return Between(low, high) * Pixel; };
     for (Control& control : controls) {
-      const Rect place{Between(-300, 900), Between(-300, 900), Between(0, 600), Between(0, 600)};
+      const Rect place{pixels(-7, 20), pixels(-7, 20), pixels(0, 14), pixels(0, 14)};
       control = MakeControl(ControlKind::Image, "", place);
       control.Visible = Between(0, 3) != 0;
     }
@@ -33,28 +37,65 @@ class AnyForm : public testing::Test {
   Form form;
 };
 
-/// Pixel by pixel, each coordinate rounded towards the start.
-std::vector<const Control*> Walk(const Form& form, Point from, Point to) {
-  const int way = std::max(std::abs(to.X - from.X), std::abs(to.Y - from.Y));
-  const int steps = std::max(1, (way + TwipsPerPixel - 1) / TwipsPerPixel);
-  std::vector<const Control*> seen;
-  for (int step = 0; step <= steps; ++step) {
-    const Point at{from.X + (to.X - from.X) * step / steps,
-                   from.Y + (to.Y - from.Y) * step / steps};
-    const Control* control = ControlAt(form, at);
-    if (!Contains({0, 0, form.Width, form.Height}, at)) continue;
-    if (std::ranges::find(seen, control) == seen.end()) seen.push_back(control);
+/// A form with a control on each pixel: it tells which pixels a way leads over.
+struct PixelForm : Form {
+  explicit PixelForm(int size) : pixels(std::size_t(size * size)) {
+    Width = Height = size * Pixel;
+    for (int place = 0; Control & control : pixels) {
+      const int x = place % size, y = place++ / size;
+      control = MakeControl(ControlKind::Label, "", {x * Pixel, y * Pixel, Pixel, Pixel});
+      control.Name = std::to_string(x) + ',' + std::to_string(y) + ' ';
+      Controls.push_back(&control);
+    }
   }
-  return seen;
+  PixelForm(const PixelForm&) = delete;
+
+  std::vector<Control> pixels;
+};
+
+TEST(Way, LeadsOverPixels) {
+  const PixelForm form(4);
+  const auto way = [&](Point from, Point to) {
+    std::string names;
+    for (const Control* pixel : ControlsAlong(form, from, to)) names += pixel->Name;
+    return names;
+  };
+  EXPECT_EQ(way({0, 14}, {45, 16}), "0,0 1,0 2,1 3,1 ") << "14.7 is rounded to 14";
+  EXPECT_EQ(way({14, 0}, {16, 45}), "0,0 0,1 1,2 1,3 ") << "14.7 is rounded to 14";
+  EXPECT_EQ(way({45, 16}, {0, 14}), "3,1 2,1 1,1 0,0 ") << "15.3 is rounded to 16";
+  EXPECT_EQ(way({30, 30}, {30, 30}), "2,2 ");
+  EXPECT_EQ(way({74, 30}, {14, 30}), "3,2 2,2 1,2 0,2 ") << "from one step outside";
+  constexpr int Low = std::numeric_limits<int>::min(), High = std::numeric_limits<int>::max();
+  EXPECT_EQ(way({Low, Low}, {High, High}), "0,0 1,1 2,2 3,3 ");
 }
 
-TEST_F(AnyForm, TellsWhatLiesOnALine) {
-  for (int round = 0; round < 3000; ++round) {
+TEST_F(AnyForm, HearsOfEachPixelOfTheWay) {
+  const PixelForm pixels(40);
+  const auto onForm = [](Point point) { return Point{point.X - 10 * Pixel, point.Y - 10 * Pixel}; };
+  const auto areNeighbours = [](const Control* a, const Control* b) {
+    return std::max(std::abs(a->Left - b->Left), std::abs(a->Top - b->Top)) == Pixel;
+  };
+  for (int round = 0; round < 1000; ++round) {
     Scatter();
-    const Point from = AnyPoint();
-    for (const Point to : {from, {from.X, AnyPoint().Y}, {AnyPoint().X, from.Y}, AnyPoint()}) {
-      ASSERT_EQ(ControlsAlong(form, from, to), Walk(form, from, to));
+    const auto any = [&] { return Between(0, pixels.Width - 1); };
+    const Point from{any(), any()};
+    const Point to{round % 4 == 0 ? from.X : any(), round % 4 == 1 ? from.Y : any()};
+    const auto way = ControlsAlong(pixels, from, to);
+    ASSERT_EQ(way.front(), ControlAt(pixels, from));
+    ASSERT_EQ(way.back(), ControlAt(pixels, to));
+    ASSERT_EQ(std::ranges::adjacent_find(way, std::not_fn(areNeighbours)), way.end());
+    const int across = to.X - from.X, down = to.Y - from.Y;
+    std::vector<const Control*> inFront;
+    for (const Control* pixel : way) {
+      const int x = pixel->Left + 7 - from.X, y = pixel->Top + 7 - from.Y;
+      ASSERT_LE(std::abs(across * y - down * x), 9 * (std::abs(across) + std::abs(down)))
+          << "not on the line";
+      const Point at = onForm({pixel->Left, pixel->Top});
+      if (!Contains({0, 0, form.Width, form.Height}, at)) continue;
+      const Control* front = ControlAt(form, at);
+      if (std::ranges::find(inFront, front) == inFront.end()) inFront.push_back(front);
     }
+    ASSERT_EQ(ControlsAlong(form, onForm(from), onForm(to)), inFront);
   }
 }
 
