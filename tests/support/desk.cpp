@@ -1,7 +1,8 @@
 #include "support/desk.h"
 
+#include <algorithm>
 #include <array>
-#include <sstream>
+#include <iterator>
 #include <stdexcept>
 
 #include "support/rules.h"
@@ -14,6 +15,16 @@ const MenuItem* FindItem(const std::vector<MenuItem>& items, std::string_view na
     if (const MenuItem* found = FindItem(item.Items, name)) return found;
   }
   return nullptr;
+}
+
+/// The legal moves of blue after which green cannot jump; all of them if there is none.
+std::vector<Move> CarefulMoves(const Position& position) {
+  std::vector<Move> moves = BlueMoves(position);
+  std::vector<Move> careful;
+  std::ranges::copy_if(moves, std::back_inserter(careful), [&](const Move& move) {
+    return std::ranges::none_of(GreenHops(Crowned(After(position, move))), IsJump);
+  });
+  return careful.empty() ? moves : careful;
 }
 
 }  // namespace
@@ -70,19 +81,36 @@ void Desk::PlayTurn(const std::vector<int>& squares) {
   RunUntilQuiet();
 }
 
-std::string Desk::PlayGame(unsigned seed) {
-  Random hand;
-  hand.Randomize(seed);
-  std::ostringstream told;
-  while (!form.position.GameOver) {
-    const auto moves = BlueMoves(form.position);
-    const auto& drag = moves[static_cast<std::size_t>(hand.Draw(static_cast<int>(moves.size())))];
-    PlayTurn(drag);
-    for (const int square : drag) told << square << ' ';
-    told << "| " << ::Draw(form.position) << " | " << toolkit.random.DrawCount << '\n';
+std::string Desk::PlayLegalTurn(const std::vector<int>& squares) {
+  const Position before = form.position;
+  const Position expected = Crowned(After(before, squares));
+  Drag(squares);
+  DeliverInput();
+  std::string drag;
+  for (const int square : squares) drag += std::to_string(square) + ' ';
+  if (!HasSameBoard(form.position, expected)) {
+    throw std::logic_error(
+        "the drag " + drag + "is legal, and is refused or leads elsewhere\non       " +
+        ::Draw(before) + "\nleads to " + ::Draw(expected) + "\nnow      " + ::Draw(form.position));
   }
-  told << host.Boxes.back().Text << '\n';
-  return told.str();
+  RunUntilQuiet();
+  return drag + "| " + ::Draw(form.position) + " | " + std::to_string(toolkit.random.DrawCount);
+}
+
+std::string Desk::PlayGame(int second) {
+  constexpr int MostTurns = 60;
+  host.Midnight = second;
+  OpenBoard();
+  Random hand;
+  hand.Randomize(second);
+  std::string told;
+  for (int turn = 0; !form.position.GameOver; ++turn) {
+    if (turn == MostTurns) return told + "no end\n";
+    const auto moves = CarefulMoves(form.position);
+    const int chosen = hand.Draw(static_cast<int>(moves.size()));
+    told += PlayLegalTurn(moves[static_cast<std::size_t>(chosen)]) + '\n';
+  }
+  return told + host.Boxes.back().Text + '\n';
 }
 
 void Desk::Pointer(InputEvent::Kind what, Point at) {

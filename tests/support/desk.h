@@ -32,9 +32,14 @@ class Desk {
   /// Makes one drag and lets the computer answer.
   void PlayTurn(const std::vector<int>& squares);
 
-  /// Plays to the end of the game, with legal drags that a hand of this seed chooses. Tells each
-  /// turn, the drag, the board after the answer and the number of draws so far, and then the end.
-  std::string PlayGame(unsigned seed);
+  /// Plays one turn with a legal drag. Returns the drag, the board after green's answer and the
+  /// number of draws so far, on one line. Throws if the drag is refused or leads elsewhere.
+  std::string PlayLegalTurn(const std::vector<int>& squares);
+
+  /// Opens the board at so many seconds after midnight, which seeds the game, and plays. The hand
+  /// takes at random one of the legal drags after which green cannot jump, if there is one. Returns
+  /// a line for each turn, and then how the game ends: "no end" if it does not within 60 turns.
+  std::string PlayGame(int second);
 
   void Press(int square) { Pointer(InputEvent::Kind::Press, Middle(square)); }
   void Move(int square) { Pointer(InputEvent::Kind::Move, Middle(square)); }
