@@ -12,8 +12,7 @@ check_packages=("${test_packages[@]}" libbenchmark-dev clang clang-format clang-
 web_packages=(cmake ninja-build python3 clang-19 lld-19 libc++-19-dev-wasm32 libc++abi-19-dev-wasm32
   libclang-rt-19-dev-wasm32 wasi-libc binaryen llvm)
 browser_packages=(chromium firefox-esr)
-package_packages=("${play_packages[@]}" git file dpkg-dev devscripts lintian desktop-file-utils appstream
-  mandoc xvfb x11-utils)
+package_packages=("${test_packages[@]}" git debhelper lintian appstream)
 
 # Installs those of the given packages that are not there yet. Where there is no apt-get nothing is
 # installed, and CMake tells what is missing.
