@@ -3,8 +3,7 @@
 #include "desktop/accessibility.h"
 #include "desktop/desktop_host.h"
 #include "desktop/display.h"
-#include "ui/main_window.h"
-#include "ui/splash_window.h"
+#include "ui/program.h"
 
 int main(int, char** argv) {
   int argc = 1;  // the game takes no options, and Qt shall not take any either
@@ -22,11 +21,5 @@ int main(int, char** argv) {
   InstallAccessibility();
 
   DesktopHost host;
-  Toolkit toolkit(host);
-  frmVelmoran mainForm(toolkit);
-  frmSplash splash(toolkit, mainForm);
-  BuildMainWindow(mainForm);
-  BuildSplashWindow(splash);
-  toolkit.Show(splash.window);
-  toolkit.Run();
+  Program(host).Run();
 }

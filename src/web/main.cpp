@@ -3,9 +3,19 @@
 
 #include "web/page.h"
 #include "web/program.h"
+#include "web/web_host.h"
+
+namespace {
+
+WebHost& TheHost() {
+  static auto& host = *new WebHost;
+  return host;
+}
+
+}  // namespace
 
 Program& TheProgram() {
-  static auto& program = *new Program;
+  static auto& program = *new Program(TheHost());
   return program;
 }
 
@@ -22,16 +32,10 @@ TO_PAGE(stack) std::uintptr_t* Stack() {
 }
 
 /// Plays. The page comes back into it each time that a wait is over.
-TO_PAGE(run) void Run() {
-  Program& program = TheProgram();
-  BuildMainWindow(program.mainForm);
-  BuildSplashWindow(program.splash);
-  program.toolkit.Show(program.splash.window);
-  program.toolkit.Run();
-}
+TO_PAGE(run) void Run() { TheProgram().Run(); }
 
 /// Queues input: an `InputEvent::Kind`, its point in twips, and the number of a menu command.
 TO_PAGE(put) void Put(int what, int x, int y, unsigned command) {
-  TheProgram().host.Put(static_cast<InputEvent::Kind>(what), {x, y}, command);
+  TheHost().Put(static_cast<InputEvent::Kind>(what), {x, y}, command);
 }
 }

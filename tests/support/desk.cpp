@@ -30,8 +30,6 @@ std::vector<Move> CarefulMoves(const Position& position) {
 }  // namespace
 
 Desk::Desk() {
-  BuildMainWindow(form);
-  BuildSplashWindow(splash);
   host.OnShow = [this] {
     if (AfterEvent) AfterEvent();
   };

@@ -5,8 +5,7 @@
 
 #include "support/board.h"
 #include "support/virtual_host.h"
-#include "ui/main_window.h"
-#include "ui/splash_window.h"
+#include "ui/program.h"
 
 /// Plays on from this position: places the pieces and shows them.
 void PlacePosition(frmVelmoran& form, const Position& position);
@@ -67,9 +66,10 @@ class Desk {
   Point Middle(int square) const;
 
   VirtualHost host;
-  Toolkit toolkit{host};
-  frmVelmoran form{toolkit};
-  frmSplash splash{toolkit, form};
+  Program program{host};
+  Toolkit& toolkit = program.toolkit;
+  frmVelmoran& form = program.mainForm;
+  frmSplash& splash = program.splash;
   std::function<void()> AfterEvent;  // nested events included; also comes before each wait
 
  private:
