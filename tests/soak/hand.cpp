@@ -7,13 +7,12 @@ namespace {
 using namespace std::chrono_literals;
 using Kind = InputEvent::Kind;
 
-constexpr int CellSide = 65 * TwipsPerPixel;
 constexpr int MostRounds = 80;  // kings may chase each other for ever
 
 class Hand {
  public:
-  Hand(Watcher& watchedGame, const Chance& chance)
-      : watcher(watchedGame), desk(watchedGame.desk), Roll(chance) {}
+  Hand(Watcher& watchedGame, std::uint64_t seed)
+      : watcher(watchedGame), desk(watchedGame.desk), state(seed) {}
 
   void PlayGame() {
     desk.host.Midnight = Roll(256);  // it seeds the computer's chance
@@ -132,13 +131,17 @@ class Hand {
   }
 
   void Send(Kind what, Point at = {}) {
-    if (watcher.Log) std::fprintf(watcher.Log, "  input %d at %d,%d\n", int(what), at.X, at.Y);
+    if (watcher.Log) {
+      constexpr std::array Names{"press", "move", "release", "cancel the drag", "menu", "close"};
+      watcher.Log("  " + std::string(Names[std::size_t(what)]) + " at " + std::to_string(at.X) +
+                  ',' + std::to_string(at.Y));
+    }
     Form* window = desk.form.window.Visible ? &desk.form.window : &desk.splash.window;
     desk.host.Put({.What = what, .Window = window, .At = at});
   }
 
   void Choose(const char* command) {
-    if (watcher.Log) std::fprintf(watcher.Log, "  %s\n", command);
+    if (watcher.Log) watcher.Log(std::string("  ") + command);
     desk.Choose(command);
   }
 
@@ -157,16 +160,27 @@ class Hand {
     return choices[static_cast<std::size_t>(Roll(static_cast<int>(choices.size())))];
   }
 
+  /// A whole number from 0 to `sides` - 1, by SplitMix64: quick to seed, every seed gives a
+  /// sequence of its own, and the hand takes nothing from the game's.
+  int Roll(int sides) {
+    std::uint64_t mixed = state += 0x9e3779b97f4a7c15;
+    mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111eb;
+    mixed ^= mixed >> 31;
+    return static_cast<int>((mixed >> 32) * static_cast<std::uint64_t>(sides) >> 32);
+  }
+
   Watcher& watcher;
   Desk& desk;
-  const Chance& Roll;
+  const int CellSide = desk.form.lblSquare[1].Width;
+  std::uint64_t state;
 };
 
 }  // namespace
 
-void PlayGame(Watcher& watcher, const Chance& chance) {
+void PlayGame(Watcher& watcher, std::uint64_t seed) {
   try {
-    Hand(watcher, chance).PlayGame();
+    Hand(watcher, seed).PlayGame();
   } catch (const ProgramEnded&) {
   }
 }

@@ -1,11 +1,13 @@
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
+#include <deque>
 
 #include "soak/hand.h"
 
 // Plays whole games with random hands, each watched from event to event. A game is its seed: the
-// one that fails is played again and told, event by event.
+// one that fails is played again, and its last events are printed.
 
 namespace {
 
@@ -19,26 +21,16 @@ void TellSeed(int signal) {
   std::_Exit(1);
 }
 
-/// Chance of its own, quick to seed, so that the hand takes nothing from the game's sequence.
-int Roll(Seed& state, int sides) {
-  // The mixing of SplitMix64: every seed, small ones included, gives a sequence of its own.
-  Seed mixed = state += 0x9e3779b97f4a7c15;
-  mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9;
-  mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111eb;
-  mixed ^= mixed >> 31;
-  return static_cast<int>((mixed >> 32) * static_cast<Seed>(sides) >> 32);
-}
-
 /// Whether the game of this seed goes well; adds what there was of it to the totals.
-bool Play(Seed seed, std::FILE* log, long long& moves, long long& events) {
+bool Play(Seed seed, const decltype(Watcher::Log)& log, long long& moves, long long& events) {
   seedUnderWay = seed;
   Desk desk;
   Watcher watcher(desk);
   watcher.Log = log;
   try {
-    PlayGame(watcher, [state = seed](int sides) mutable { return Roll(state, sides); });
+    PlayGame(watcher, seed);
   } catch (const std::exception& error) {
-    std::printf("seed %llu fails at event %d: %s\n", seed, watcher.Events, error.what());
+    if (log) std::printf("seed %llu fails at event %d: %s\n", seed, watcher.Events, error.what());
     return false;
   }
   moves += watcher.Moves;
@@ -46,9 +38,22 @@ bool Play(Seed seed, std::FILE* log, long long& moves, long long& events) {
   return true;
 }
 
+/// Plays a game that fails once more, and prints what came last.
+void PrintFailure(Seed seed) {
+  std::deque<std::string> lines;
+  const auto keep = [&](const std::string& line) {
+    lines.push_back(line);
+    if (lines.size() > 12) lines.pop_front();
+  };
+  long long ignored = 0;
+  Play(seed, keep, ignored, ignored);
+  for (const std::string& line : lines) std::puts(line.c_str());
+  std::printf("The whole game is printed by: soak 1 %llu\n", seed);
+}
+
 }  // namespace
 
-/// How many games, and the seed of the first; a single game is told event by event.
+/// How many games, and the seed of the first; a single game is printed event by event.
 int main(int count, char** arguments) {
   const Seed games = count > 1 ? std::strtoull(arguments[1], nullptr, 10) : 0;
   const Seed first = count > 2 ? std::strtoull(arguments[2], nullptr, 10) : 1;
@@ -61,9 +66,11 @@ int main(int count, char** arguments) {
   const auto start = std::chrono::steady_clock::now();
   long long moves = 0;
   long long events = 0;
+  decltype(Watcher::Log) print;
   for (Seed seed = first; seed < first + games; ++seed) {
-    if (Play(seed, games == 1 ? stdout : nullptr, moves, events)) continue;
-    if (games > 1) Play(seed, stdout, moves, events);
+    if (games == 1) print = [](const std::string& line) { std::puts(line.c_str()); };
+    if (Play(seed, print, moves, events)) continue;
+    if (games > 1) PrintFailure(seed);
     return 1;
   }
   const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;

@@ -1,6 +1,7 @@
 #include "soak/watcher.h"
 
 #include <algorithm>
+#include <iomanip>
 #include <sstream>
 #include <utility>
 
@@ -70,6 +71,8 @@ void Watcher::CheckBoard() {
   const bool isTurnOver = now.BlueToMove != last.BlueToMove;
   if (now.NewGameRequested && !last.NewGameRequested) {
     Demand(HasSameBoard(now, StartPosition()), "a new game begins from the start position");
+    Demand(!desk.form.tmrPause.Enabled && !desk.form.tmrBlink.Enabled,
+           "New Game leaves a timer on");
     isAnnounced = false;
     chain = 0;
   } else if (HasSameBoard(now, last)) {
@@ -113,7 +116,7 @@ void Watcher::CheckDrag() const {
 }
 
 void Watcher::CheckBox(const MessageBox& box) {
-  if (Log) std::fprintf(Log, "             box \"%s\": %s\n", box.Title.c_str(), box.Text.c_str());
+  if (Log) Log("             box " + box.Title + ": " + box.Text.substr(0, box.Text.find('\r')));
   const Position& position = desk.form.position;
   Demand(!desk.host.ShownDrag.Source, "a message box leaves no drag");
   if (box.Title == "Game Over") {
@@ -146,7 +149,7 @@ void Watcher::CheckRest() {
 void Watcher::Tell() const {
   if (desk.form.position == last && desk.host.ShownDrag.Pointer == lastDrag.Pointer) return;
   std::ostringstream told;
+  told << std::setw(8) << desk.host.Now().count() / 1000 << " ms  ";
   PrintTo(desk.form.position, &told);
-  std::fprintf(Log, "%8lld ms  %s\n", static_cast<long long>(desk.host.Now().count() / 1000),
-               told.str().c_str());
+  Log(told.str());
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdio>
+#include <functional>
 #include <stdexcept>
 
 #include "support/desk.h"
@@ -15,7 +15,15 @@ struct Fault : std::runtime_error {
 void Demand(bool isTrue, const char* what);
 
 /// Watches a desk from event to event, and throws a `Fault` at the first thing that is not as it
-/// must always be.
+/// must always be:
+/// - The tables and the pictures agree.
+/// - Blue moves by the rules, once in a turn; green too, takes where it can, and jumps on with the
+///   same piece for as long as it can. Nothing else changes the board but New Game.
+/// - New Game sets up the start position and stops both timers.
+/// - A game ends at once when it must, with the right words, once, and never otherwise. Boxes come
+///   only where they are called for.
+/// - Only blue pieces are dragged, only in the human's turn, and no drag inherits a path.
+/// - At rest the human can move, or the game is over: nothing of a turn is left.
 class Watcher {
  public:
   explicit Watcher(Desk& watchedDesk);
@@ -27,8 +35,8 @@ class Watcher {
   void Deal(const Position& position);
 
   Desk& desk;
-  std::FILE* Log = nullptr;  // where every change is told, if anywhere
-  int Moves = 0;             // of the human
+  std::function<void(const std::string& line)> Log;  // is told every change; may be empty
+  int Moves = 0;                                     // of the human
   int Events = 0;
 
  private:
