@@ -126,15 +126,4 @@ TEST(WholeGames, AreReplayedAsRecorded) {
   EXPECT_EQ(CaseThatIsMissing(shown), "") << "no game shows this any more";
 }
 
-TEST(NewGame, IsSeededByItsTimeOfDay) {
-  Desk desk;
-  desk.host.Midnight = 86399.25;
-  desk.OpenBoard();
-  desk.Choose("mnuGame");
-  desk.RunUntilQuiet();
-  Random expected;
-  expected.Randomize(86399.75);  // the first pause has passed
-  EXPECT_EQ(desk.toolkit.random.Rnd(), expected.Rnd());
-}
-
 }  // namespace

@@ -67,6 +67,11 @@ TEST_F(ToolkitTest, TimersWaitForABoxAndKeepTheirBeat) {
   EXPECT_EQ(TicksUntil(1800ms), (Ticks{200, 750, 800, 1000, 1750}));
 }
 
+TEST_F(ToolkitTest, ADueTickGoesBeforeWaitingInput) {
+  host.At(200ms, [this] { Choose([this] { ticks.push_back(0); }); });
+  EXPECT_EQ(TicksUntil(300ms), (Ticks{200, 0}));
+}
+
 TEST_F(ToolkitTest, TimersNeverTickInTheirOwnHandler) {
   TimerControl other;
   other.Interval = 150ms;
@@ -108,7 +113,8 @@ TEST_F(ToolkitTest, DragsStartFollowAndEnd) {
   Send(Press, {50, 50});
   toolkit.MsgBox("", MessageIcon::Stop, "");
   EXPECT_EQ(cancelled, 7);
-  Send(Press, {50, 50});
+  toolkit.DoEvents();  // the tick that came due behind the box
+  EXPECT_EQ(Send(Press, {50, 50}), &image);
   image.Visible = false;
   EXPECT_EQ(Send(Move, {60, 50}), nullptr) << "nothing is left to drag";
 }
