@@ -1,7 +1,8 @@
 // Measures what the page costs in both browsers: measure_web.mjs [RUNS], with the folder that
-// tests/web/run has built in as BUILD. Printed are medians of runs made in turn: milliseconds from navigation
-// to the first thing painted, of the page and of an empty one of the same size; microseconds of a
-// pointer event's whole round trip; milliseconds of processor time, of all processes of the browser,
+// tests/web/run has built in as BUILD. Printed are medians of runs made in turn: milliseconds from
+// navigation to the first thing painted, of the page and of an empty one of the same size;
+// microseconds from a pointer event to the changed outline, in a drag, for steps of a pixel and of
+// a square; milliseconds of processor time, of all processes of the browser,
 // over 10 s at rest (beside an empty page) and over a computer's turn; KiB of the program's memory.
 import {execFileSync} from 'node:child_process';
 import {readFileSync, statSync, writeFileSync} from 'node:fs';
@@ -62,14 +63,30 @@ async function measure(name) {
   await rest(2000);
   const emptyAtRest = await costOf(browser, 10000);
   await tab.goto(url(page));
-  await tab.waitForFunction(() => box.open, {timeout: 10000});
+  await tab.waitForFunction(() => document.querySelector('dialog').open, {timeout: 10000});
   await tab.keyboard.press('Enter');
   await rest(2000);
   const atRest = await costOf(browser, 10000);
-  const roundTrip = await tab.evaluate(() => {
-    const times = 20000, start = performance.now();
-    for (let k = 0; k < times; ++k) put(Kinds.Move, k % 7800, 4000);
-    return (performance.now() - start) / times * 1000;
+  const events = await tab.evaluate(() => {
+    const view = document.querySelector('#view'), area = view.getBoundingClientRect();
+    const outline = view.lastElementChild, side = area.width / 8;
+    view.setPointerCapture = () => {};
+    const send = (type, buttons, x) => view.dispatchEvent(new PointerEvent(type, {
+      isPrimary: true, buttons, clientX: area.x + x, clientY: area.y + 5.5 * side,
+    }));
+    const costOf = step => {
+      const times = 4000, start = performance.now();
+      send('pointerdown', 1, side / 2);
+      for (let k = 1; k <= times; ++k) {
+        const before = outline.firstElementChild;
+        send('pointermove', 1, side / 2 + k % 7 * step);
+        if (outline.firstElementChild == before) throw new Error('The outline has not moved.');
+      }
+      const cost = (performance.now() - start) / times * 1000;
+      send('pointermove', 0, side / 2);  // without a button: the drag is over
+      return cost.toFixed(0);
+    };
+    return [costOf(1), costOf(side)].join(' and ');
   });
   const area = await (await tab.$('#view')).boundingBox();
   const at = (column, row) => [area.x + (column + .5) * area.width / 8, area.y + (row + .5) * area.height / 8];
@@ -78,10 +95,10 @@ async function measure(name) {
   await tab.mouse.move(...at(1, 4));
   await tab.mouse.up();
   const turn = await costOf(browser, 3500);
-  const memory = await tab.evaluate(() => game.memory.buffer.byteLength / 1024);
+  const memory = await tab.evaluate(() => velmoran.program.memory.buffer.byteLength / 1024);
   await browser.close();
   console.log(`${name}: splash ${median(paints.page).toFixed(0)} ms, empty page ${
-      median(paints.empty).toFixed(0)} ms; round trip ${roundTrip.toFixed(1)} us; 10 s at rest ${
+      median(paints.empty).toFixed(0)} ms; an event ${events} us; 10 s at rest ${
       atRest} ms, empty page ${emptyAtRest} ms; a turn ${turn} ms; memory ${memory} KiB`);
 }
 

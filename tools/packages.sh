@@ -11,7 +11,7 @@ check_packages=("${test_packages[@]}" libbenchmark-dev clang clang-format clang-
 # The compiler of the page, its C and C++ libraries, and what lays its stack aside.
 web_packages=(cmake ninja-build python3 clang-19 lld-19 libc++-19-dev-wasm32 libc++abi-19-dev-wasm32
   libclang-rt-19-dev-wasm32 wasi-libc binaryen llvm)
-browser_packages=(chromium firefox-esr)
+browser_packages=(chromium firefox-esr webkit2gtk-driver xvfb)
 package_packages=("${test_packages[@]}" git debhelper lintian appstream)
 
 # Installs those of the given packages that are not there yet. Where there is no apt-get nothing is

@@ -34,8 +34,14 @@ TO_PAGE(stack) std::uintptr_t* Stack() {
 /// Plays. The page comes back into it each time that a wait is over.
 TO_PAGE(run) void Run() { TheProgram().Run(); }
 
-/// Queues input: an `InputEvent::Kind`, its point in twips, and the number of a menu command.
-TO_PAGE(put) void Put(int what, int x, int y, unsigned command) {
-  TheHost().Put(static_cast<InputEvent::Kind>(what), {x, y}, command);
+// Input, with its point in twips.
+TO_PAGE(press) void Press(int x, int y) { TheHost().Put(InputEvent::Kind::Press, {x, y}); }
+TO_PAGE(move) void Move(int x, int y) { TheHost().Put(InputEvent::Kind::Move, {x, y}); }
+TO_PAGE(release) void Release(int x, int y) { TheHost().Put(InputEvent::Kind::Release, {x, y}); }
+TO_PAGE(cancelDrag) void CancelDrag() { TheHost().Put(InputEvent::Kind::CancelDrag); }
+
+/// The menu command at this place in `CommandsOf`.
+TO_PAGE(choose) void Choose(unsigned command) {
+  TheHost().Put(InputEvent::Kind::MenuCommand, {}, command);
 }
 }

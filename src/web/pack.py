@@ -1,32 +1,34 @@
 #!/usr/bin/env python3
-"""Makes one page that needs nothing beside itself: pack.py PROGRAM.wasm SOURCES PAGE.html
+"""Makes one page that needs nothing beside itself: pack.py PROGRAM.wasm PAGE.html OUT.html
 
-SOURCES is the folder of page.html, page.css and page.js. The policy of the page lets it run its own
-script and style alone."""
+The scripts and styles that PAGE.html names are put into their places. The policy of the page lets
+it run these alone."""
 
 import base64
 import gzip
 import hashlib
 import pathlib
+import re
 import sys
 
 
 def main():
-    program, sources, out = map(pathlib.Path, sys.argv[1:])
-    style = (sources / "page.css").read_text()
-    script = (sources / "page.js").read_text()
+    program, page, out = map(pathlib.Path, sys.argv[1:])
+    digests = {"script": "", "style": ""}
 
-    def digest(text):
-        return "'sha256-" + base64.b64encode(hashlib.sha256(text.encode()).digest()).decode() + "'"
+    def inline(reference):
+        file, tag = (reference[1], "style") if reference[1] else (reference[2], "script")
+        text = (page.parent / file).read_text("utf-8")
+        digest = hashlib.sha256(text.encode("utf-8")).digest()
+        digests[tag] += f" 'sha256-{base64.b64encode(digest).decode()}'"
+        return f"<{tag}>{text}</{tag}>"
 
+    text = re.sub(r'<link rel="stylesheet" href="(.+)">|<script src="(.+)"></script>', inline,
+                  page.read_text("utf-8"))
     policy = ("default-src 'none'; base-uri 'none'; form-action 'none'; img-src data:; "
-              f"script-src 'wasm-unsafe-eval' {digest(script)}; style-src {digest(style)}")
+              f"script-src 'wasm-unsafe-eval'{digests['script']}; style-src{digests['style']}")
     packed = base64.b64encode(gzip.compress(program.read_bytes(), mtime=0)).decode()
-    page = (sources / "page.html").read_text()
-    for name, text in {"POLICY": policy, "STYLE": style, "PROGRAM": packed,
-                       "SCRIPT": script}.items():
-        page = page.replace(f"@{name}@", text)
-    out.write_text(page)
+    out.write_text(text.replace("@POLICY@", policy).replace("@PROGRAM@", packed), "utf-8")
 
 
 if __name__ == "__main__":

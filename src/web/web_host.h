@@ -18,7 +18,7 @@ class WebHost : public Host {
 
   /// Queues input to the form that is shown. `command` is a place in the `CommandsOf` its menu, and
   /// counts for a menu command alone.
-  void Put(InputEvent::Kind what, Point at, std::size_t command);
+  void Put(InputEvent::Kind what, Point at = {}, std::size_t command = 0);
 
  private:
   void Open(Form& form);

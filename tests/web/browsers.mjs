@@ -1,9 +1,11 @@
 // The folder of the page, as BUILD, and the browsers that it is tried in.
 import {createRequire} from 'node:module';
 import {resolve} from 'node:path';
+import {launchWebKit} from './webkit.mjs';
 
 export const folder = resolve(process.env.BUILD ?? 'build-web');
-const puppeteer = createRequire(folder + '/')('puppeteer-core');
+export const fetched = createRequire(folder + '/');
+const puppeteer = fetched('puppeteer-core');
 
 /// Debian's browsers: the one by its developer tools, the other by the standard protocol.
 const browsers = {
@@ -11,4 +13,5 @@ const browsers = {
   firefox: {executablePath: '/usr/bin/firefox-esr'},
 };
 
-export const launch = name => puppeteer.launch({browser: name, ...browsers[name]});
+export const launch = name =>
+  name == 'webkit' ? launchWebKit() : puppeteer.launch({browser: name, ...browsers[name]});

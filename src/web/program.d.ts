@@ -1,0 +1,38 @@
+// What program and page are to each other. page.h and main.cpp say what each function does.
+
+/** What the program exports; the last four are Asyncify's. Addresses and sizes are numbers. */
+interface Program {
+  readonly memory: WebAssembly.Memory;
+  _initialize(): void;
+  stack(): number;
+  run(): void;
+  press(x: number, y: number): void;
+  move(x: number, y: number): void;
+  release(x: number, y: number): void;
+  cancelDrag(): void;
+  choose(command: number): void;
+  asyncify_get_state(): number;
+  asyncify_stop_unwind(): void;
+  asyncify_start_unwind(stack: number): void;
+  asyncify_start_rewind(stack: number): void;
+  asyncify_stop_rewind(): void;
+}
+
+/** What the program imports. Texts are addresses of UTF-8 that ends with a zero. */
+type Imports = {
+  now(): number;
+  secondsSinceMidnight(): number;
+  wait(milliseconds: number): void;
+  showBox(text: number, title: number, icon: number): void;
+  open(markup: number, title: number, icon: number): void;
+  paint(place: number, markup: number): void;
+  describe(place: number, words: number): void;
+  announce(words: number): void;
+  end(): never;
+  fail(text: number): never;
+};
+
+interface Window {
+  /** What the tests reach into. */
+  velmoran: {readonly program?: Program; readonly awaited: '' | 'input' | 'box'};
+}
