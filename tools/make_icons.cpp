@@ -4,10 +4,10 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QTextStream>
 #include <cstdio>
 
 #include "desktop/painting.h"
+#include "toolkit/svg.h"
 #include "ui/pictures.h"
 
 namespace {
@@ -20,46 +20,10 @@ bool WriteBitmap(const QString& path, const Picture& picture, int size) {
   return image.save(path);
 }
 
-/// The outline of a shape as an SVG element, open for its attributes of colour.
-QString SvgOutline(const PictureShape& shape) {
-  const auto& corners = shape.Corners;
-  if (shape.Outline == PictureShape::Kind::Polygon) {
-    QString points;
-    for (const auto& [x, y] : corners) points += QString("%1,%2 ").arg(x).arg(y);
-    return QString("<polygon points='%1'").arg(points.trimmed());
-  }
-  const auto [left, top] = corners[0];
-  const double width = corners[1].first - left;
-  const double height = corners[1].second - top;
-  if (shape.Outline == PictureShape::Kind::Ellipse) {
-    return QString("<ellipse cx='%1' cy='%2' rx='%3' ry='%4'")
-        .arg(left + width / 2)
-        .arg(top + height / 2)
-        .arg(width / 2)
-        .arg(height / 2);
-  }
-  // Crisp, or at most sizes the ground would shine through along the seams.
-  return QString("<rect x='%1' y='%2' width='%3' height='%4' shape-rendering='crispEdges'")
-      .arg(left)
-      .arg(top)
-      .arg(width)
-      .arg(height);
-}
-
 bool WriteSvg(const QString& path, const Picture& picture) {
   QFile file(path);
-  if (!file.open(QIODevice::WriteOnly)) return false;
-  QTextStream svg(&file);
-  svg << QString("<svg xmlns='http://www.w3.org/2000/svg' width='%1' height='%2'")
-             .arg(picture.Width)
-             .arg(picture.Height)
-      << QString(" viewBox='0 0 %1 %2'>\n").arg(picture.Width).arg(picture.Height);
-  for (const PictureShape& shape : picture.Shapes) {
-    svg << "  " << SvgOutline(shape) << " fill='" << ToQColor(shape.Fill).name() << "'/>\n";
-  }
-  svg << "</svg>\n";
-  svg.flush();
-  return svg.status() == QTextStream::Ok && file.flush();
+  return file.open(QIODevice::WriteOnly) && file.write(IconMarkup(picture).c_str()) > 0 &&
+         file.flush();
 }
 
 /// The place of the icon in a theme, where `kind` names the size. Makes its folder.

@@ -2,7 +2,9 @@
 
 #include <QPolygonF>
 #include <algorithm>
-#include <initializer_list>
+#include <span>
+
+#include "toolkit/shown_form.h"
 
 namespace {
 
@@ -52,7 +54,7 @@ void PaintCaption(QPainter& painter, const Control& control) {
   // The form's points are those of 96 dots per inch, whatever the screen says of itself.
   font.setPixelSize(control.Font.Points * 96 / 72);
   const QString caption = QString::fromStdString(control.Caption);
-  const double room = ToPixels(control.CaptionWidth != 0 ? control.CaptionWidth : control.Width);
+  const double room = ToPixels(CaptionRoom(control));
   while (font.pixelSize() > 1 && QFontMetricsF(font).horizontalAdvance(caption) > room) {
     font.setPixelSize(font.pixelSize() - 1);
   }
@@ -69,7 +71,7 @@ void PaintLabel(QPainter& painter, const Control& control) {
 /// A frame of lines of these colours, the outermost first. It is laid out in pixels of the screen,
 /// as each side for itself might be rounded otherwise than the next.
 void PaintFrame(QPainter& painter, const QRectF& place, int lineWidth,
-                std::initializer_list<Color> colors) {
+                std::span<const Color> colors) {
   const QTransform toScreen = painter.deviceTransform();
   const int width = std::max(1, qRound(lineWidth * toScreen.m11()));
   QRect box = toScreen.mapRect(place).toRect();
@@ -102,7 +104,7 @@ void PaintControl(QPainter& painter, const Control& control) {
       if (control.Picture) PaintPicture(painter, *control.Picture, PixelRect(RectOf(control)));
       break;
     case ControlKind::Border:
-      PaintFrame(painter, PixelRect(RectOf(control)), control.LineWidth, {control.ForeColor});
+      PaintFrame(painter, PixelRect(RectOf(control)), control.LineWidth, {&control.ForeColor, 1});
       break;
     case ControlKind::PictureBox:
       break;
@@ -119,7 +121,7 @@ void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& place
 }
 
 void PaintDragOutline(QPainter& painter, const QRectF& place) {
-  PaintFrame(painter, place, 1, {{255, 255, 255}, {0, 0, 0}});
+  PaintFrame(painter, place, 1, OutlineColors);
 }
 
 QIcon MakeIcon(const Picture& picture) {

@@ -21,8 +21,7 @@ void PaintControl(QPainter& painter, const Control& control);
 /// Paints a picture over the whole rectangle.
 void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& place);
 
-/// Paints the outline that follows the pointer in a drag, within its place and equally thick on all
-/// sides: a light line and a dark one, so that it shows on any ground.
+/// Paints the outline that follows the pointer in a drag, equally thick on all sides.
 void PaintDragOutline(QPainter& painter, const QRectF& place);
 
 /// A picture as a window icon, in the usual sizes.

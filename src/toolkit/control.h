@@ -48,8 +48,7 @@ struct Control {
   Color ForeColor;                     // Label: its caption; Border: its line
   std::string Caption;                 // UTF-8
   ::Font Font;
-  int CaptionWidth = 0;  // twips a caption may take, with a font that is wider it is drawn
-                         // smaller; 0: the whole width
+  int CaptionWidth = 0;  // Label: twips that its caption may take; 0: the whole width
   int LineWidth = 0;     // Border: pixels
 
   const ControlEvents* Events = nullptr;  // shared by a control array
@@ -57,6 +56,11 @@ struct Control {
 
 constexpr Rect RectOf(const Control& control) {
   return {control.Left, control.Top, control.Width, control.Height};
+}
+
+/// The twips that the caption may take. A caption that is wider is drawn smaller.
+constexpr int CaptionRoom(const Control& control) {
+  return control.CaptionWidth != 0 ? control.CaptionWidth : control.Width;
 }
 
 /// A visible control of this kind at this place, and nothing else set.

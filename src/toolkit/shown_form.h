@@ -23,6 +23,10 @@ Look LookOf(const Control& control);
 /// pointer. Empty while the form has no drag.
 std::optional<Rect> OutlineOf(const Form& form, const Drag& drag);
 
+/// The outline's lines, each a pixel wide, the outermost first. They lie within its place. One is
+/// light and one dark, so that it shows on any ground.
+constexpr Color OutlineColors[]{White, Black};
+
 /// What a host has shown of a form last, so that it shows anew only what has changed.
 class ShownForm {
  public:

@@ -1,38 +1,10 @@
 #include "web/markup.h"
 
-#include <cmath>
-
+#include "toolkit/shown_form.h"
+#include "toolkit/svg.h"
 #include "web/menu_markup.h"
 
 namespace {
-
-std::string Attribute(const char* name, const std::string& value) {
-  return std::string(" ") + name + "=\"" + Escaped(value) + "\"";
-}
-
-std::string Attribute(const char* name, int value) {
-  return Attribute(name, std::to_string(value));
-}
-
-std::string Attribute(const char* name, Color color) {
-  constexpr const char* Digits = "0123456789abcdef";
-  std::string hex = "#";
-  for (const int part : {color.Red, color.Green, color.Blue}) {
-    hex += Digits[part / 16];
-    hex += Digits[part % 16];
-  }
-  return Attribute(name, hex);
-}
-
-std::string PlaceAttributes(const Rect& place) {
-  return Attribute("x", place.Left) + Attribute("y", place.Top) + Attribute("width", place.Width) +
-         Attribute("height", place.Height);
-}
-
-std::string ViewBox(int width, int height) {
-  return Attribute("viewBox",
-                   std::string("0 0 ") + std::to_string(width) + " " + std::to_string(height));
-}
 
 std::string RectPath(const Rect& rect) {
   const std::string width = std::to_string(rect.Width);
@@ -40,44 +12,14 @@ std::string RectPath(const Rect& rect) {
          width + "v" + std::to_string(rect.Height) + "h-" + width + "z";
 }
 
-/// A line of this width along the edges of the rectangle, inside of it.
+/// What a line of this width along its edges leaves of the rectangle.
+Rect Inside(const Rect& rect, int width) {
+  return {rect.Left + width, rect.Top + width, rect.Width - 2 * width, rect.Height - 2 * width};
+}
+
 std::string FrameMarkup(const Rect& rect, int width, Color color) {
-  const Rect hole{rect.Left + width, rect.Top + width, rect.Width - 2 * width,
-                  rect.Height - 2 * width};
   return R"(<path fill-rule="evenodd")" + Attribute("fill", color) +
-         Attribute("d", RectPath(rect) + RectPath(hole)) + "/>";
-}
-
-/// A coordinate of a picture in hundredths of its pixels.
-int Hundredths(double pixels) { return static_cast<int>(std::lround(pixels * 100)); }
-
-std::string ShapeMarkup(const PictureShape& shape) {
-  const std::string fill = Attribute("fill", shape.Fill) + "/>";
-  const int left = Hundredths(shape.Corners[0].first);
-  const int top = Hundredths(shape.Corners[0].second);
-  const int width = Hundredths(shape.Corners[1].first) - left;
-  const int height = Hundredths(shape.Corners[1].second) - top;
-  switch (shape.Outline) {
-    case PictureShape::Kind::Rectangle:
-      return "<rect" + PlaceAttributes({left, top, width, height}) + fill;
-    case PictureShape::Kind::Ellipse:
-      return "<ellipse" + Attribute("cx", left + width / 2) + Attribute("cy", top + height / 2) +
-             Attribute("rx", width / 2) + Attribute("ry", height / 2) + fill;
-    case PictureShape::Kind::Polygon:
-      break;
-  }
-  std::string points;
-  for (const auto& [x, y] : shape.Corners) {
-    points += std::to_string(Hundredths(x)) + "," + std::to_string(Hundredths(y)) + " ";
-  }
-  return "<polygon" + Attribute("points", points) + fill;
-}
-
-std::string PictureMarkup(const Picture& picture, const std::string& attributes) {
-  std::string shapes;
-  for (const PictureShape& shape : picture.Shapes) shapes += ShapeMarkup(shape);
-  return R"(<svg preserveAspectRatio="none")" + attributes +
-         ViewBox(100 * picture.Width, 100 * picture.Height) + ">" + shapes + "</svg>";
+         Attribute("d", RectPath(rect) + RectPath(Inside(rect, width))) + "/>";
 }
 
 /// In the middle of the control, at its upper edge.
@@ -88,8 +30,7 @@ std::string CaptionMarkup(const Control& control) {
   return "<text" + Attribute("x", control.Left + control.Width / 2) + Attribute("y", control.Top) +
          Attribute("fill", control.ForeColor) + Attribute("font-family", families + "sans-serif") +
          Attribute("font-size", control.Font.Points * TwipsPerPoint) +
-         Attribute("data-room", control.CaptionWidth != 0 ? control.CaptionWidth : control.Width) +
-         ">" + Escaped(control.Caption) + "</text>";
+         Attribute("data-room", CaptionRoom(control)) + ">" + Escaped(control.Caption) + "</text>";
 }
 
 std::string LabelMarkup(const Control& control) {
@@ -102,22 +43,6 @@ std::string LabelMarkup(const Control& control) {
 }
 
 }  // namespace
-
-std::string Escaped(std::string_view text) {
-  std::string escaped;
-  for (const char c : text) {
-    if (c == '&') {
-      escaped += "&amp;";
-    } else if (c == '<') {
-      escaped += "&lt;";
-    } else if (c == '"') {
-      escaped += "&quot;";
-    } else {
-      escaped += c;
-    }
-  }
-  return escaped;
-}
 
 std::string ControlMarkup(const Control& control) {
   if (!control.Visible) return "";
@@ -136,14 +61,13 @@ std::string ControlMarkup(const Control& control) {
 }
 
 std::string OutlineMarkup(const Rect& place) {
-  constexpr int Line = TwipsPerPixel;
-  const Rect inner{place.Left + Line, place.Top + Line, place.Width - 2 * Line,
-                   place.Height - 2 * Line};
-  return FrameMarkup(place, Line, {255, 255, 255}) + FrameMarkup(inner, Line, {0, 0, 0});
-}
-
-std::string IconMarkup(const Picture& picture) {
-  return PictureMarkup(picture, R"( xmlns="http://www.w3.org/2000/svg")");
+  std::string markup;
+  Rect rect = place;
+  for (const Color color : OutlineColors) {
+    markup += FrameMarkup(rect, TwipsPerPixel, color);
+    rect = Inside(rect, TwipsPerPixel);
+  }
+  return markup;
 }
 
 std::string FormMarkup(const Form& form) {

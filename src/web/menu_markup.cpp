@@ -1,6 +1,6 @@
 #include "web/menu_markup.h"
 
-#include "web/markup.h"
+#include "toolkit/svg.h"
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cassert>
 
+#include "toolkit/svg.h"
 #include "web/markup.h"
 #include "web/menu_markup.h"
 #include "web/page.h"
