@@ -70,7 +70,3 @@ constexpr bool CanJump(const Position& position, Square square, Direction direct
   const Square landing = Neighbour(over, direction);
   return landing != 0 && SquareOwner(position, landing) == Nobody;
 }
-
-/// Whether the tables are valid: every entry is 0 to 32, no two pieces share a square, and the jump
-/// path has no gap.
-bool IsConsistent(const Position& position);

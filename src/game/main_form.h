@@ -52,10 +52,6 @@ void SetBlueDragMode(frmVelmoran& form, int dragMode);
 /// The picture of a green piece that is not lit: man or king.
 const Picture* PlainGreenPicture(const frmVelmoran& form, int piece);
 
-/// Whether the tables are valid and the window shows what they say: each piece on its square with a
-/// picture of its rank, captured pieces hidden.
-bool IsConsistent(const frmVelmoran& form);
-
 /// Shows the message for an internal error, which cannot happen while the tables are consistent.
 /// Play goes on afterwards.
 void ShowProgramError(Toolkit& toolkit, int number);

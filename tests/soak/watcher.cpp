@@ -56,13 +56,57 @@ void Watcher::CheckEvent() {
   Demand(++Events - lastRest < MostEvents, "the turn has no end");
   if (!desk.form.window.Visible) return;
   if (Log) Tell();
-  Demand(IsConsistent(desk.form), "the tables and the pictures disagree");
+  CheckTables();
+  CheckPictures();
   CheckBoard();
   Demand(desk.form.position.GameOver == isAnnounced, "a game is over from its announcement on");
   CheckDrag();
   last = desk.form.position;
   wasHumansTurn = IsHumansTurn();
   lastDrag = desk.host.ShownDrag;
+}
+
+void Watcher::CheckTables() const {
+  const Position& position = desk.form.position;
+  Table<int, Squares> pieces;
+  for (const auto& table : {position.BlueSquare, position.GreenSquare}) {
+    for (const Square square : table) {
+      Demand(0 <= square && square <= Squares, "a piece stands beside the board");
+      Demand(square == 0 || ++pieces[square] == 1, "two pieces stand on one square");
+    }
+  }
+  bool isFree = false;
+  for (const Square square : position.JumpPath) {
+    Demand(square == 0 || !isFree, "the path has a gap");
+    isFree = square == 0;
+  }
+}
+
+/// Each piece is shown on its square, with a picture of its rank, and a captured one is hidden.
+void Watcher::CheckPictures() const {
+  const frmVelmoran& form = desk.form;
+  const auto checkPlace = [&](Square square, const Control& image) {
+    Demand(image.Visible == (square != 0), "a captured piece is shown, or another is not");
+    if (square == 0) return;
+    const Control& label = form.lblSquare[square];
+    Demand(image.Left == label.Left && image.Top == label.Top, "a piece is shown elsewhere");
+  };
+  const Position& position = form.position;
+  for (int piece = 1; piece <= Pieces; ++piece) {
+    const Control& blue = form.imgBlueChecker[piece];
+    const Control& green = form.imgGreenChecker[piece];
+    checkPlace(position.BlueSquare[piece], blue);
+    checkPlace(position.GreenSquare[piece], green);
+    const bool isBlueKing = position.BlueKing[piece];
+    const bool isGreenKing = position.GreenKing[piece];
+    const bool mayBeLit = form.tmrBlink.Enabled && form.BlinkChecker == piece;
+    const Control& lit =
+        isGreenKing ? form.picGreenKingHighlightREF : form.picGreenCheckerHighlightREF;
+    Demand(blue.Picture == (isBlueKing ? form.picBlueKingREF : form.picBlueCheckerREF).Picture &&
+               (green.Picture == PlainGreenPicture(form, piece) ||
+                (mayBeLit && green.Picture == lit.Picture)),
+           "a piece shows another rank, or is lit though it does not blink");
+  }
 }
 
 /// Every change of the board is a legal move of the side whose turn it is, or a new game.
@@ -100,6 +144,7 @@ void Watcher::CheckGreenHop() {
   Demand(IsJump(*hop) || !HasJump(hops), "green takes where it can");
   Demand(chain == 0 || (chain == hop->front() && IsJump(*hop)), "green goes on with its piece");
   chain = hop->back();
+  Demand(now.GreenSquare[desk.form.BlinkChecker] == chain, "another piece blinks than moves");
   const bool isLast = !IsJump(*hop) || !HasJumpFrom(chain, GreenHops(now));
   Demand(isLast == now.BlueToMove, "green jumps on for as long as it can");
 }

@@ -16,7 +16,7 @@ void Demand(bool isTrue, const char* what);
 
 /// Watches a desk from event to event, and throws a `Fault` at the first thing that is not as it
 /// must always be:
-/// - The tables and the pictures agree.
+/// - The tables are sound, and the pictures show what they say.
 /// - Blue moves by the rules, once in a turn; green too, takes where it can, and jumps on with the
 ///   same piece for as long as it can. Nothing else changes the board but New Game.
 /// - New Game sets up the start position and stops both timers.
@@ -42,6 +42,8 @@ class Watcher {
  private:
   bool IsHumansTurn() const;
   void CheckEvent();
+  void CheckTables() const;
+  void CheckPictures() const;
   void CheckBoard();
   void CheckGreenHop();
   void CheckDrag() const;
