@@ -15,8 +15,10 @@ std::size_t PlaceOf(int square) {
 Position Board(std::string_view picture) {
   std::string marks(picture);
   std::erase(marks, ' ');
-  const bool isBoard = marks.size() == Squares && marks.find_first_not_of(".bBgG") == marks.npos;
-  if (!isBoard) throw std::invalid_argument("a board is 8 rows of 4 squares");
+  if (marks.size() != Squares || marks.find_first_not_of(".bBgG") != marks.npos) {
+    throw std::invalid_argument(
+        "a board is 8 rows of 4 squares, each . b B g or G; this is none: " + std::string(picture));
+  }
   Position position;
   position.BlueToMove = true;
   int blue = 0;
@@ -51,6 +53,18 @@ std::string Draw(const Position& position) {
   std::string rows;
   for (std::size_t first = 29; first > 1; first -= 4) rows += marks.substr(first, 4) + ' ';
   return rows + marks.substr(1, 4);
+}
+
+std::string DrawRows(const Position& position) {
+  const std::string marks = Marks(position);
+  std::string picture;
+  for (int first = 29; first > 0; first -= 4) {
+    picture += RowShift(Square(first)) == 1 ? "     " : "   ";
+    for (int square = first; square < first + 4; ++square) {
+      picture += marks.substr(std::size_t(square), 1) + (square < first + 3 ? "   " : "\n");
+    }
+  }
+  return picture;
 }
 
 void PrintTo(const Position& position, std::ostream* out) {

@@ -20,5 +20,8 @@ std::string Marks(const Position& position);
 /// The picture of a position on one line: `Board` reads it.
 std::string Draw(const Position& position);
 
+/// The picture of a position on 8 lines, for people.
+std::string DrawRows(const Position& position);
+
 /// The picture, the flags that are set and the jump path, as failed tests and logs show them.
 void PrintTo(const Position& position, std::ostream* out);

@@ -66,6 +66,13 @@ void AddJumpsOf(std::string marks, int from, std::vector<Move>& moves) {
 
 }  // namespace
 
+int Between(int from, int to) {
+  for (const Way way : Ways) {
+    if (to != 0 && Go(Go(from, way), way) == to) return Go(from, way);
+  }
+  return 0;
+}
+
 bool IsJump(const Move& move) { return std::abs(RowOf(move[1]) - RowOf(move[0])) != 1; }
 
 std::vector<Move> BlueMoves(const Position& position) {
@@ -98,10 +105,7 @@ Position After(Position position, const Move& move) {
     std::ranges::replace(position.GreenSquare, Square(old), Square(now));
   };
   for (std::size_t k = 1; IsJump(move) && k < move.size(); ++k) {
-    for (const Way way : Ways) {
-      const int over = Go(move[k - 1], way);
-      if (Go(over, way) == move[k]) replace(over, 0);
-    }
+    replace(Between(move[k - 1], move[k]), 0);
   }
   replace(move.front(), move.back());
   return position;

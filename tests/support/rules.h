@@ -10,6 +10,9 @@
 /// The squares of a move from first to last: two for a step, one more for each jump.
 using Move = std::vector<int>;
 
+/// The square that a jump from one to the other crosses; 0 if there is no such jump.
+int Between(int from, int to);
+
 bool IsJump(const Move& move);
 
 /// All that blue may do: if there is a jump only jumps, each chain also stopped short. By piece,

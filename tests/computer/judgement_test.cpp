@@ -1,0 +1,178 @@
+#include "computer/judgement.h"
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+#include "support/board.h"
+#include "support/rules.h"
+
+namespace {
+
+// What green thinks of a move, told a second time by the moves that the rules allow before and
+// after it. Whoever changes a rule of movement in both learns here whether green still judges
+// rightly.
+
+/// How many pieces blue can take by jumps that begin over the square; two for more.
+int Taken(const Position& position, int square) {
+  std::size_t most = 0;
+  for (const Move& move : BlueMoves(position)) {
+    if (Between(move[0], move[1]) == square) most = std::max(most, move.size() - 1);
+  }
+  return static_cast<int>(std::min<std::size_t>(most, 2));
+}
+
+void Put(Table<Square, Pieces>& squares, Square square) {
+  *std::ranges::find(squares, Square{0}) = square;
+}
+
+/// Whether green takes some blue king on any square that it can step to, and the piece, on `to`,
+/// has a part in it. The king still blocks the square that it leaves, and so does the piece.
+bool Traps(const Position& now, int piece, Square to) {
+  const Square from = now.GreenSquare[piece];
+  const auto isTrapped = [&](Square king) {
+    bool hasPart = false;
+    for (const Direction direction : AllDirections) {
+      const Square escape = Neighbour(king, direction);
+      const bool isLeft = escape == from && from != to;
+      if (escape == 0 || (SquareOwner(now, escape) != Nobody && !isLeft)) continue;
+      Position position = now;
+      const auto isTaken = [&](bool byPiece) {
+        return std::ranges::any_of(GreenHops(Crowned(position)), [&](const Move& hop) {
+          return Between(hop[0], hop[1]) == escape &&
+                 byPiece == (hop[0] == position.GreenSquare[piece]);
+        });
+      };
+      Put(position.BlueSquare, escape);
+      if (isLeft) position.GreenSquare[piece] = 0;
+      const bool byOthers = isTaken(false);
+      if (from != to && !isLeft) Put(position.GreenSquare, from);
+      position.GreenSquare[piece] = to;
+      const bool byPiece = to != escape && isTaken(true);
+      if (!byOthers && !byPiece) return false;
+      hasPart |= byPiece;
+    }
+    return hasPart;
+  };
+  for (int blue = 1; blue <= Pieces; ++blue) {
+    if (now.BlueKing[blue] && isTrapped(now.BlueSquare[blue])) return true;
+  }
+  return false;
+}
+
+Judgement Tell(const Position& now, const MoveRecord& move) {
+  const auto& [piece, from, direction, kind, to] = move;
+  Position then = now;  // whatever the move takes still stands
+  then.GreenSquare[piece] = to;
+  const int stands = Taken(now, from);
+  const int arrives = Taken(then, to);
+  int exposed = 0;
+  int saved = 0;
+  for (const Square other : now.GreenSquare) {
+    if (other == 0 || other == from) continue;
+    const int before = Taken(now, other);
+    const int after = Taken(then, other);
+    if (before == 0) exposed = std::max(exposed, after);
+    if (after == 0) saved += before;
+  }
+  const bool attacks =
+      std::ranges::any_of(GreenHops(then), [&, from = from, to = to](const Move& hop) {
+        return hop[0] == to && IsJump(hop) && hop[1] != from;
+      });
+  const bool crowns = !now.GreenKing[piece] && to <= 4 && arrives == 0;
+  return {stands,
+          arrives,
+          exposed,
+          saved,
+          stands - arrives - exposed + saved,
+          attacks,
+          crowns,
+          Traps(now, piece, from),
+          Traps(now, piece, to)};
+}
+
+Position RandomBoard(std::mt19937& random, int pieces) {
+  std::string picture(Squares, '.');
+  for (; pieces > 0; --pieces) {
+    const std::size_t place = random() % Squares;
+    const bool isKing = place < 4 || place >= 28 || random() % 2 == 0;
+    picture[place] = "bgBG"[random() % 2 + (isKing ? 2 : 0)];
+  }
+  return Board(picture);
+}
+
+/// Shows the first board on which the two differ; the boards begin with two pieces.
+TEST(Moves, AreJudgedAsTheRulesTellASecondTime) {
+  std::mt19937 random;
+  for (int board = 0; board < 4000; ++board) {
+    const Position position = RandomBoard(random, 2 + board / 400);
+    std::set<Move> hops;
+    const MoveList moves = ListGreenMoves(position);
+    for (int k = 0; k < moves.Count; ++k) {
+      const MoveRecord& move = moves.Items[static_cast<std::size_t>(k)];
+      hops.insert({move.FromSquare, move.ToSquare});
+      const Judgement told = Tell(position, move);
+      const Judgement judged = Judge(position, move);
+      for (std::size_t k = 0; k < Merits.size(); ++k) {
+        ASSERT_EQ(judged[k], told[k])
+            << Merits[k] << ' ' << move.FromSquare << '-' << move.ToSquare << '\n'
+            << DrawRows(position);
+      }
+    }
+    const std::vector<Move> expected = GreenHops(position);
+    ASSERT_EQ(hops, std::set(expected.begin(), expected.end())) << DrawRows(position);
+  }
+}
+
+// The order of two moves.
+
+const MoveMerits Plain{};
+const MoveMerits Jump{.Kind = MoveKindJump, .Score = -4};
+const MoveMerits HighStep{.Score = 10};
+const MoveMerits Unsafe{.DepthAtTo = 1};
+const MoveMerits Attack{.Attacks = true};
+const MoveMerits LowAttack{.Score = -1, .Attacks = true};
+const MoveMerits UnsafeAttack{.DepthAtTo = 1, .Attacks = true};
+const MoveMerits Crowning{.IsSafeCrowning = true};
+const MoveMerits CrowningTrap{.IsSafeCrowning = true, .TrapsAtTo = true};
+const MoveMerits Trap{.TrapsAtTo = true};
+const MoveMerits UnsafeTrap{.DepthAtTo = 1, .TrapsAtTo = true};
+const MoveMerits Release{.TrapsAtFrom = true};
+const MoveMerits OtherTrap{.TrapsAtFrom = true, .TrapsAtTo = true};
+
+struct Order {
+  const char* Rule;
+  const MoveMerits& First;
+  const MoveMerits& Second;
+  bool IsSecondBetter;
+  bool IsFirstBetter;  // once they stand the other way round
+};
+
+const Order Orders[] = {
+    {"a jump goes before any step", HighStep, Jump, true, false},
+    {"a higher score goes before an attack", LowAttack, Plain, true, false},
+    {"at equal score an attack goes first", Plain, Attack, true, false},
+    {"a safe attack goes before an unsafe one", UnsafeAttack, Attack, true, false},
+    {"an unsafe attack counts for nothing", Plain, UnsafeAttack, false, false},
+    {"then a safe crowning goes first", Plain, Crowning, true, false},
+    {"a crowning goes before a trap", Trap, Crowning, true, false},
+    {"an attack and a crowning are each better than the other", Attack, Crowning, true, true},
+    {"an attack and a trap are each better than the other", Attack, Trap, true, true},
+    {"of two crownings the one that traps a king goes first", Crowning, CrowningTrap, true, false},
+    {"then who traps a king goes first", Plain, Trap, true, false},
+    {"who gives up a trap goes last, even for another one", OtherTrap, Plain, true, false},
+    {"if both give up a trap, who sets one goes first", Release, OtherTrap, true, false},
+    {"an unsafe trap counts for nothing", Plain, UnsafeTrap, false, false},
+    {"safety alone has been counted in the score", Unsafe, Plain, false, false},
+    {"two attacks keep their order", Attack, Attack, false, false},
+    {"two traps keep their order", Trap, Trap, false, false},
+};
+
+TEST(Moves, AreRankedByTheRules) {
+  for (const auto& [rule, first, second, isSecondBetter, isFirstBetter] : Orders) {
+    EXPECT_EQ(IsBetterMove(first, second), isSecondBetter) << rule;
+    EXPECT_EQ(IsBetterMove(second, first), isFirstBetter) << rule;
+  }
+}
+
+}  // namespace
