@@ -1,17 +1,190 @@
+#include <array>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
 
-#include "soak/hand.h"
+#include "soak/watcher.h"
 
 // Plays whole games with random hands, each watched from event to event. A game is its seed: the
 // one that fails is played again, and its last events are printed.
 
 namespace {
 
+using namespace std::chrono_literals;
+using Kind = InputEvent::Kind;
 using Seed = unsigned long long;
+
+constexpr int MostRounds = 80;  // kings may chase each other for ever
+
+/// Plays one game. The hand mostly keeps to the rules, and now and then does anything else that a
+/// hand can do, until the program ends.
+class Hand {
+ public:
+  Hand(Watcher& watchedGame, Seed seed) : watcher(watchedGame), state(seed) {}
+
+  void PlayGame() {
+    desk.host.Midnight = Roll(256);  // it seeds the computer's chance
+    desk.toolkit.Show(Roll(10) == 0 ? desk.splash.window : desk.form.window);
+    for (int round = 0; round < MostRounds; ++round) {
+      if (round == 1 && Roll(3) != 0) Deal();
+      PlayRound();
+    }
+    Leave();
+  }
+
+ private:
+  /// Something to do for the human, what comes of it, and now and then more in between.
+  void PlayRound() {
+    desk.host.BoxTime = Any(std::vector<Instant>{0ms, 1ms, 150ms, 200ms, 500ms, 3s, 1h});
+    for (int more = Roll(12); more > 9; --more) {
+      const Instant exactly = 100ms * Roll(50);  // a tick may come at the same instant
+      desk.In(exactly + Roll(2) * 1ms * Roll(100), [this] { Disturb(); });
+    }
+    if (desk.form.position.GameOver) {
+      Roll(3) == 0 ? DragAnyhow() : Roll(4) == 0 ? Choose("mnuGame") : Leave();
+    } else if (desk.form.window.Visible) {
+      PlayTurn(Any(BlueMoves(desk.form.position)));
+    }
+    desk.RunUntilQuiet();
+    watcher.CheckRest();
+  }
+
+  void PlayTurn(const Move& move) {
+    const int what = Roll(100);
+    if (what < 1) return Choose("mnuGame");
+    if (what < 2) return OpenHelp();
+    if (what < 6) return DragCutOff(move);
+    what < 14 ? DragAnyhow() : DragByTheRules(move);
+  }
+
+  /// Most games end before there are many kings, so some begin with them.
+  void Deal() {
+    std::mt19937 generator(static_cast<unsigned>(Roll(65536)));
+    const auto chance = [&](std::uint64_t percent) { return generator() % 100 < percent; };
+    const std::uint64_t crowded = 10 + generator() % 70;
+    const std::uint64_t greenShare = 10 + generator() % 80;
+    std::array left{Pieces, Pieces};
+    std::string picture(Squares, '.');
+    for (std::size_t place = 0; place < Squares; ++place) {
+      const bool isGreen = chance(greenShare);
+      const bool isKing = chance(40) || place < 4 || place >= 28;
+      if (chance(crowded) && left[std::size_t(isGreen)]-- > 0)
+        picture[place] = "bBgG"[isGreen * 2 + isKing];
+    }
+    const Position position = Board(picture);
+    if (left[1] < Pieces && !BlueMoves(position).empty()) watcher.Deal(position);
+  }
+
+  void DragByTheRules(const Move& move) {
+    const Position& position = desk.form.position;
+    const Position expected = Crowned(After(position, move));
+    Follow(move);
+    Send(Kind::Release, PointOn(move.back()));
+    desk.DeliverInput();
+    Demand(HasSameBoard(position, expected), "a legal drag is refused or leads to another move");
+    Demand(position.GameOver || desk.form.tmrPause.Enabled, "green is not asked to move");
+  }
+
+  /// A drag that would be right, but ends without a drop; its release comes late.
+  void DragCutOff(const Move& move) {
+    Follow(move);
+    const int what = Roll(4);
+    if (what == 0) Send(Kind::Release, {Roll(2) == 0 ? -1 : 8 * CellSide, Roll(8 * CellSide)});
+    if (what == 1) Send(Kind::CancelDrag);
+    if (what == 2) OpenHelp();
+    if (what == 3) Choose("mnuGame");
+    desk.DeliverInput();
+    Demand(!desk.host.ShownDrag.Source, "a drag outlives what ends it");
+    const Position before = desk.form.position;
+    Send(Kind::Release, PointOn(move.back()));
+    desk.DeliverInput();
+    Demand(HasSameBoard(desk.form.position, before), "a late release drops a piece");
+  }
+
+  /// From a piece by hops of one square or two, or from anywhere to anywhere.
+  void DragAnyhow() {
+    const int square = desk.form.position.BlueSquare[1 + Roll(Pieces)];
+    Point at = square != 0 && Roll(4) != 0 ? PointOn(square) : PointAnywhere();
+    Send(Kind::Press, at);
+    for (int hops = Roll(5); hops > 0; --hops) {
+      const int away = CellSide * (1 + Roll(2));
+      const Point near{at.X + (Roll(2) == 0 ? away : -away), at.Y + (Roll(2) == 0 ? away : -away)};
+      Send(Kind::Move, at = Roll(5) == 0 ? PointAnywhere() : near);
+    }
+    if (Roll(8) != 0) Send(Kind::Release, square != 0 && Roll(6) == 0 ? PointOn(square) : at);
+  }
+
+  /// While the computer moves, or over the splash.
+  void Disturb() {
+    const int what = Roll(100);
+    if (what < 2) return Send(Kind::Close);
+    if (what < 50 || !desk.form.window.Visible) return DragAnyhow();
+    if (what < 70) return OpenHelp();
+    for (int times = 1 + Roll(2); times > 0; --times) Choose("mnuGame");
+    // Queued together, the drag must find the interrupted turn gone.
+    if (Roll(2) == 0) desk.Drag({9, 13});
+  }
+
+  void Leave() {
+    Roll(2) == 0 ? Choose("mnuExit") : Send(Kind::Close);
+    desk.DeliverInput();
+    throw Fault("the program outlives its end");
+  }
+
+  /// Presses on the piece and passes its stops, the last one sometimes only by the release.
+  void Follow(const Move& move) {
+    Send(Kind::Press, PointOn(move.front()));
+    const std::size_t stops = move.size() - (Roll(3) == 0 ? 1 : 0);
+    for (std::size_t k = 1; k < stops; ++k) Send(Kind::Move, PointOn(move[k]));
+  }
+
+  void Send(Kind what, Point at = {}) {
+    if (watcher.Log) {
+      constexpr std::array Names{"press", "move", "release", "cancel the drag", "menu", "close"};
+      watcher.Log("  " + std::string(Names[std::size_t(what)]) + " at " + std::to_string(at.X) +
+                  ',' + std::to_string(at.Y));
+    }
+    Form* window = desk.form.window.Visible ? &desk.form.window : &desk.splash.window;
+    desk.host.Put({.What = what, .Window = window, .At = at});
+  }
+
+  void Choose(const char* command) {
+    if (watcher.Log) watcher.Log(std::string("  ") + command);
+    desk.Choose(command);
+  }
+
+  void OpenHelp() { Choose(Any(std::vector{"mnuControls", "mnuAbout", "mnuPart1"})); }
+
+  Point PointOn(int square) {
+    const Control& label = desk.form.lblSquare[square];
+    return {label.Left + Roll(label.Width), label.Top + Roll(label.Height)};
+  }
+
+  /// On the window, or up to a cell beside it.
+  Point PointAnywhere() { return {Roll(10 * CellSide) - CellSide, Roll(10 * CellSide) - CellSide}; }
+
+  template <typename T>
+  T Any(const std::vector<T>& choices) {
+    return choices[static_cast<std::size_t>(Roll(static_cast<int>(choices.size())))];
+  }
+
+  /// A whole number from 0 to `sides` - 1, by SplitMix64: quick to seed, every seed gives a
+  /// sequence of its own, and the hand takes nothing from the game's.
+  int Roll(int sides) {
+    Seed mixed = state += 0x9e3779b97f4a7c15;
+    mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9;
+    mixed = (mixed ^ (mixed >> 27)) * 0x94d049bb133111eb;
+    mixed ^= mixed >> 31;
+    return static_cast<int>((mixed >> 32) * static_cast<Seed>(sides) >> 32);
+  }
+
+  Watcher& watcher;
+  Desk& desk = watcher.desk;
+  const int CellSide = desk.form.lblSquare[1].Width;
+  Seed state;
+};
 
 volatile Seed seedUnderWay = 0;
 
@@ -28,7 +201,8 @@ bool Play(Seed seed, const decltype(Watcher::Log)& log, long long& moves, long l
   Watcher watcher(desk);
   watcher.Log = log;
   try {
-    PlayGame(watcher, seed);
+    Hand(watcher, seed).PlayGame();
+  } catch (const ProgramEnded&) {
   } catch (const std::exception& error) {
     if (log) std::printf("seed %llu fails at event %d: %s\n", seed, watcher.Events, error.what());
     return false;
