@@ -6,7 +6,6 @@
 #include <set>
 
 #include "support/desk.h"
-#include "toolkit/paragraphs.h"
 
 namespace {
 
@@ -116,9 +115,6 @@ void CheckHelp(Desk& desk, const Position& before) {
   const auto& box = desk.host.Boxes[0];
   EXPECT_EQ(box.Icon, MessageIcon::Information);
   EXPECT_FALSE(box.Text.ends_with('\n')) << "a line break at the end";
-  const std::vector<int> joined = LinesOfParagraphs(JoinBrokenLines(box.Text));
-  EXPECT_EQ(std::ranges::count(joined, 1), std::ssize(joined)) << "for a narrow screen";
-  EXPECT_EQ(joined.size(), LinesOfParagraphs(box.Text).size()) << "for a narrow screen";
   EXPECT_EQ(desk.form.position, before);
   EXPECT_EQ(desk.toolkit.random.DrawCount, 0) << "drawn from the game's sequence";
 }
