@@ -34,31 +34,14 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
 bool InputFilter::FilterPointer(QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick: {
-      const auto* mouse = static_cast<QMouseEvent*>(event);
-      if (mouse->button() != Qt::LeftButton) {
-        Put(InputEvent::Kind::CancelDrag);
-        return true;
-      }
-      isLeftDown = true;
-      Put(InputEvent::Kind::Press, view->PointAt(mouse->position()));
-      return true;
-    }
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
     case QEvent::MouseMove: {
       const auto* mouse = static_cast<QMouseEvent*>(event);
-      // No release comes when the window was minimised or lost the pointer in mid-drag.
-      if (isLeftDown && !(mouse->buttons() & Qt::LeftButton)) {
-        isLeftDown = false;
-        Put(InputEvent::Kind::CancelDrag);
+      const bool isMove = event->type() == QEvent::MouseMove;
+      for (const InputEvent::Kind what : watch.See(mouse->buttons().toInt(), isMove)) {
+        Put(what, view->PointAt(mouse->position()));
       }
-      Put(InputEvent::Kind::Move, view->PointAt(mouse->position()));
-      return true;
-    }
-    case QEvent::MouseButtonRelease: {
-      const auto* mouse = static_cast<QMouseEvent*>(event);
-      if (mouse->button() != Qt::LeftButton) return true;
-      isLeftDown = false;
-      Put(InputEvent::Kind::Release, view->PointAt(mouse->position()));
       return true;
     }
     default:

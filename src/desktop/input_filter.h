@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "desktop/form_view.h"
+#include "toolkit/buttons.h"
 
 /// Translates what happens to a window into the raw input of its form.
 class InputFilter : public QObject {
@@ -23,5 +24,5 @@ class InputFilter : public QObject {
   Form& form;
   std::function<void(const InputEvent&)> sink;
   FormView* view = nullptr;
-  bool isLeftDown = false;  // as far as presses and releases have told
+  ButtonWatch watch;
 };

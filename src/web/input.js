@@ -1,46 +1,33 @@
 'use strict';
 // Pointer and keys.
 
-const Left = 1;
-
 function watchPointer() {
-  let held = 0;     // the buttons that were down last
-  let holder = -1;  // the pointer that they belong to
+  /** The pointer whose buttons are down. @type {number | undefined} */
+  let holder;
   /** @param {PointerEvent} event */
   const follow = event => {
-    if (!event.isPrimary || (held && event.pointerId != holder)) return;
-    const area = view.getBoundingClientRect();
-    const scale = view.viewBox.baseVal.width / area.width;
-    /** @param {PointerEvent} e @returns {[number, number]} */
-    const at = e => [
-      Math.floor((e.clientX - area.left) * scale), Math.floor((e.clientY - area.top) * scale),
-    ];
-    const isMove = event.type == 'pointermove';
-    const way = isMove ? event.getCoalescedEvents?.() ?? [] : [];
-    for (const step of way.length ? way : isMove ? [event] : []) {
-      put(program => program.move(...at(step)));
-    }
+    if (!event.isPrimary || event.pointerId != (holder ?? event.pointerId)) return;
     if (event.type == 'pointerdown') {
       view.setPointerCapture(event.pointerId);
-      held = 0;
       holder = event.pointerId;
       view.focus();
     }
-    const down = event.buttons & ~held, up = held & ~event.buttons;
-    held = event.buttons;
-    if (down & Left) put(program => program.press(...at(event)));
-    if (down & ~Left) cancelDrag();
-    if (!(up & Left)) return;
-    // A pointer that comes along without a button has let go where the page did not see it.
-    if (isMove && !held) cancelDrag();
-    else put(program => program.release(...at(event)));
+    const area = view.getBoundingClientRect();
+    const scale = view.viewBox.baseVal.width / area.width;
+    const isMove = event.type == 'pointermove';
+    const way = isMove ? event.getCoalescedEvents?.() ?? [] : [];
+    for (const {clientX, clientY, buttons} of way.length ? way : [event]) {
+      const x = Math.floor((clientX - area.left) * scale);
+      const y = Math.floor((clientY - area.top) * scale);
+      put(program => program.see(x, y, buttons, isMove));
+    }
   };
   view.addEventListener('pointerdown', follow);
   view.addEventListener('pointermove', follow);
   view.addEventListener('pointerup', follow);
   view.addEventListener('lostpointercapture', () => {
-    if (held) cancelDrag();
-    held = 0;
+    holder = undefined;
+    cancelDrag();
   });
   view.addEventListener('contextmenu', event => event.preventDefault());
 }

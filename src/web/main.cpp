@@ -1,6 +1,7 @@
 #include <array>
 #include <cstdint>
 
+#include "toolkit/buttons.h"
 #include "web/page.h"
 #include "web/program.h"
 #include "web/web_host.h"
@@ -34,10 +35,13 @@ TO_PAGE(stack) std::uintptr_t* Stack() {
 /// Plays. The page comes back into it each time that a wait is over.
 TO_PAGE(run) void Run() { TheProgram().Run(); }
 
-// Input, with its point in twips.
-TO_PAGE(press) void Press(int x, int y) { TheHost().Put(InputEvent::Kind::Press, {x, y}); }
-TO_PAGE(move) void Move(int x, int y) { TheHost().Put(InputEvent::Kind::Move, {x, y}); }
-TO_PAGE(release) void Release(int x, int y) { TheHost().Put(InputEvent::Kind::Release, {x, y}); }
+/// The pointer is at this point, in twips, with these buttons down, as `ButtonWatch` takes them.
+TO_PAGE(see) void See(int x, int y, unsigned buttons, bool isMove) {
+  static ButtonWatch watch;
+  for (const InputEvent::Kind what : watch.See(buttons, isMove)) TheHost().Put(what, {x, y});
+}
+
+/// Ends the drag: the page is left, a menu has been opened, or the like.
 TO_PAGE(cancelDrag) void CancelDrag() { TheHost().Put(InputEvent::Kind::CancelDrag); }
 
 /// The menu command at this place in `CommandsOf`.

@@ -6,9 +6,7 @@ interface Program {
   _initialize(): void;
   stack(): number;
   run(): void;
-  press(x: number, y: number): void;
-  move(x: number, y: number): void;
-  release(x: number, y: number): void;
+  see(x: number, y: number, buttons: number, isMove: boolean): void;
   cancelDrag(): void;
   choose(command: number): void;
   asyncify_get_state(): number;

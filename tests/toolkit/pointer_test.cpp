@@ -7,6 +7,7 @@
 #include <limits>
 #include <random>
 
+#include "toolkit/buttons.h"
 #include "toolkit/shown_form.h"
 
 namespace {
@@ -97,6 +98,25 @@ TEST_F(AnyForm, HearsOfEachPixelOfTheWay) {
     }
     ASSERT_EQ(ControlsAlong(form, onForm(from), onForm(to)), inFront);
   }
+}
+
+TEST(Buttons, BecomeInput) {
+  using enum InputEvent::Kind;
+  using Input = std::vector<InputEvent::Kind>;
+  ButtonWatch watch;
+  const auto see = [&](unsigned buttons, bool isMove) { return watch.See(buttons, isMove); };
+  EXPECT_EQ(see(0, true), Input{Move});
+  EXPECT_EQ(see(1, false), Input{Press});
+  EXPECT_EQ(see(1, true), Input{Move});
+  EXPECT_EQ(see(3, true), (Input{CancelDrag, Move})) << "as a browser tells of a second button";
+  EXPECT_EQ(see(1, false), Input{}) << "its release";
+  EXPECT_EQ(see(5, false), Input{CancelDrag}) << "as other hosts do";
+  EXPECT_EQ(see(4, true), (Input{Move, Release}));
+  EXPECT_EQ(see(0, false), Input{});
+  EXPECT_EQ(see(1, false), Input{Press});
+  EXPECT_EQ(see(1, false), Input{Press}) << "its release was lost";
+  EXPECT_EQ(see(0, true), (Input{CancelDrag, Move})) << "that too";
+  EXPECT_EQ(see(0, false), Input{});
 }
 
 /// Whoever follows the changes shows what the form says, and hears of nothing else.
