@@ -1,4 +1,4 @@
-# Sourced by ../play, ../test and ../web: what each needs from Debian, and how the game is configured.
+# Sourced by play, test, web and .ci/run: what each needs from Debian, and how a build is configured.
 
 build=${BUILD:-build}
 
@@ -7,10 +7,13 @@ play_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation fonts-comic-n
 demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
-check_packages=("${test_packages[@]}" libbenchmark-dev clang clang-format clang-tidy gcovr valgrind)
-# The compiler of the page, its C and C++ libraries, and what lays its stack aside.
-web_packages=(cmake ninja-build python3 clang-19 lld-19 libc++-19-dev-wasm32 libc++abi-19-dev-wasm32
-  libclang-rt-19-dev-wasm32 wasi-libc binaryen llvm)
+# The page takes the newest clang from 19 on whose C++ library is there for WebAssembly: of those that
+# are installed, or else of those that Debian has.
+clang=$({ dpkg-query --show 'libc++-*-dev-wasm32' || apt-cache pkgnames libc++-; } 2>/dev/null |
+  sed -n 's/^libc++-\(19\|[2-9][0-9]\)-dev-wasm32.*/\1/p' | sort -n | tail -n 1) || true
+: "${clang:=19}"
+web_packages=(cmake ninja-build python3 clang-$clang lld-$clang libc++-$clang-dev-wasm32
+  libc++abi-$clang-dev-wasm32 libclang-rt-$clang-dev-wasm32 wasi-libc binaryen llvm)
 browser_packages=(chromium firefox-esr webkit2gtk-driver xvfb)
 package_packages=("${test_packages[@]}" git debhelper lintian appstream)
 
@@ -37,25 +40,16 @@ install_missing() {
   return 1
 }
 
-# What the build folder remembers under that name.
-cached() { sed -n "s/^$1:[A-Z]*=//p" "$build/CMakeCache.txt" 2>/dev/null; }
-
-# Configures where there is no build yet, one of the given options (NAME=VALUE) stands otherwise, or
-# either folder has been moved.
+# Configures $build by a preset of CMakePresets.json and further options of cmake. Where the sources
+# have been moved it begins anew.
 configure() {
-  local option changed= fresh=()
+  local sources fresh=()
   if ! mkdir -p "$build" 2>/dev/null || [[ ! -w $build ]]; then
     echo "Nothing can be written to $build. To build elsewhere: BUILD=FOLDER $0" >&2
     return 1
   fi
-  if [[ ! $(cached CMAKE_HOME_DIRECTORY) -ef . || ! $(cached CMAKE_CACHEFILE_DIR) -ef $build ]]; then
-    fresh=(--fresh)
-    ! command -v ninja >/dev/null || fresh+=(-G Ninja)
-  fi
-  for option; do
-    [[ $(cached "${option%%=*}") == "${option#*=}" ]] || changed=yes
-  done
-  if [[ $changed || ${fresh[*]} || ! (-f $build/build.ninja || -f $build/Makefile) ]]; then
-    cmake "${fresh[@]}" -S . -B "$build" "${@/#/-D}"
-  fi
+  sources=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$build/CMakeCache.txt" 2>/dev/null || true)
+  [[ ! $sources || $sources -ef . ]] || fresh=(--fresh)
+  ! command -v ninja >/dev/null || export CMAKE_GENERATOR=Ninja
+  cmake --preset "$1" -B "$build" "${fresh[@]}" "${@:2}" >/dev/null
 }

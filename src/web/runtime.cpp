@@ -12,7 +12,10 @@ extern "C" {
 }
 
 _LIBCPP_BEGIN_NAMESPACE_STD
-void __libcpp_verbose_abort(const char* text, ...) { PageFail(text); }
+// Newer versions of the library declare it noexcept.
+void __libcpp_verbose_abort(const char* text, ...) noexcept(noexcept(__libcpp_verbose_abort(""))) {
+  PageFail(text);
+}
 _LIBCPP_END_NAMESPACE_STD
 
 #endif
