@@ -84,7 +84,7 @@ std::string FormMarkup(const Form& form) {
     }
   }
   return MenuMarkup(form.Menu) + R"(<svg id="view" tabindex="-1" role="group")" +
-         Attribute("aria-label", form.Caption) + Attribute("aria-owns", order) +
+         Attribute("aria-owns", order) +
          Attribute("width", form.Width / TwipsPerPixel) +
          Attribute("height", form.Height / TwipsPerPixel) + ViewBox(form.Width, form.Height) +
          R"(><rect width="100%" height="100%")" + Attribute("fill", form.BackColor) + "/>" +

@@ -13,12 +13,23 @@ function textAt(address) {
   return new TextDecoder().decode(memory.subarray(address, memory.indexOf(0, address)));
 }
 
-/** @param {string} text */
+/** A paragraph with its lines broken as in the text. @param {string} text */
 function paragraphOf(text) {
   const paragraph = document.createElement('p');
-  paragraph.textContent = text;
+  const lines = text.split('\r\n').flatMap(line => [' ', document.createElement('br'), line]);
+  paragraph.append(...lines.slice(2));
   return paragraph;
 }
+
+/** Joins the lines of a box where one of them would have to be broken once more. */
+function fitLines() {
+  const text = one('dialog section');
+  text.className = 'unbroken';
+  const isTooWide = [...text.children].some(paragraph =>
+    paragraph.querySelector('br') && paragraph.scrollWidth > paragraph.clientWidth);
+  text.className = isTooWide ? 'joined' : '';
+}
+addEventListener('resize', fitLines);
 
 /** The group of a control. @param {number} place */
 const groupAt = place => one('#control' + place, SVGGElement);
@@ -40,17 +51,19 @@ const page = {
     view.focus();
     one('dialog h1').textContent = textAt(title);
     one('dialog svg', SVGElement).setAttribute('class', 'icon' + icon);
-    const paragraphs = textAt(text).replaceAll('\r\n', '\n').split('\n\n');
+    const paragraphs = textAt(text).split('\r\n\r\n');
     one('dialog section').replaceChildren(...paragraphs.map(paragraphOf));
     box.showModal();
+    fitLines();
+    box.scrollTop = 0;
   }),
   open(markup, title, icon) {
-    main.className = '';
     main.innerHTML = textAt(markup);
     document.title = textAt(title);
     one('link[rel=icon]', HTMLLinkElement).href =
         'data:image/svg+xml,' + encodeURIComponent(textAt(icon));
     view = one('#view', SVGSVGElement);
+    view.setAttribute('aria-label', document.title);  // without the blanks around it
     watchPointer();
     watchMenu();
   },

@@ -1,25 +1,34 @@
 'use strict';
 // The beginning and the end of the game.
 
-/**
- * Leaves a sentence instead of the game, of which nothing runs any more.
- * @param {unknown} reason
- */
+/** Why there is no game any more, in words for who wanted to play. @param {unknown} reason */
+function sentenceFor(reason) {
+  if (reason == Ended) return 'The game is closed.';
+  if (!window.WebAssembly || !program && reason instanceof WebAssembly.CompileError) {
+    return 'This game needs WebAssembly, which a setting or a policy forbids here.';
+  }
+  return 'The game has found a fault in itself and stopped.';
+}
+
+/** Leaves a sentence instead of the game, of which nothing goes on. @param {unknown} reason */
 function leave(reason) {
-  main.className = '';
   if (reason != Ended) console.error(reason);
-  if (!program) return;  // it never ran: the page's own sentence has stood there all the time
+  main.innerHTML = '<p></p><button>Start again</button>';
+  one('main p').textContent = sentenceFor(reason);
+  one('main button').onclick = () => location.reload();
   program = undefined;
+  awaited = '';
   clearTimeout(alarm);
   box.close();
-  main.innerHTML = '<p></p><button>Start again</button>';
-  one('main p').textContent =
-      reason == Ended ? 'The game is closed.' : 'The game has found a fault in itself and stopped.';
-  one('main button').onclick = () => location.reload();
   one('main button').focus();
 }
 
 async function start() {
+  main.className = '';
+  if (!window.DecompressionStream) return;  // too old: what stands there says so
+  // A page that was saved in the middle of a game bears what was shown.
+  main.textContent = news.textContent = '';
+  box.open = false;
   const packed = Uint8Array.from(atob(one('#program').textContent ?? ''), c => c.charCodeAt(0));
   const bytes = new Blob([packed]).stream().pipeThrough(new DecompressionStream('gzip'));
   const answer = new Response(bytes, {headers: {'Content-Type': 'application/wasm'}});

@@ -5,18 +5,19 @@ import {once} from 'node:events';
 import {createServer} from 'node:http';
 import {after, before, test} from 'node:test';
 import {pathToFileURL} from 'node:url';
-import {folder, launch} from './browsers.mjs';
+import {fetched, folder, launch} from './browsers.mjs';
 
 const browserName = process.argv[2];
 const Start = 'gggg gggg gggg .... .... bbbb bbbb bbbb';
 const Moved = 'gggg gggg gggg .... b... .bbb bbbb bbbb';  // from 9 to 13
 const Desk = {width: 800, height: 700};
 const rest = milliseconds => new Promise(done => setTimeout(done, milliseconds));
-const file = `${folder}/velmoran.html`;
+const file = `${folder}/velmoran.html`, html = readFileSync(file, 'utf8');
+const axe = readFileSync(fetched.resolve('axe-core/axe.min.js'), 'utf8');
 
 /// What runs in the page before its own scripts: questions of the tests, a place for what goes
-/// wrong, and a clock that stands still until `tick`, so many seconds after midnight; where they are
-/// null, the clock is the browser's own.
+/// wrong, and a clock that stands still until `tick`, so many seconds after midnight. With null for
+/// these the clock is the browser's own.
 function prepare(seconds) {
   window.all = (selector, read = element => element) =>
     [...document.querySelectorAll(selector)].map(read);
@@ -88,7 +89,7 @@ const server = createServer((request, answer) => {
 
 /// One page in a browser, with a hand of real input.
 class Hand {
-  static async open(browser, {view = Desk, seconds = 1, html, change = ''} = {}) {
+  static async open(browser, {view = Desk, seconds = 1, body = html, change = ''} = {}) {
     const hand = new Hand();
     hand.page = await browser.newPage();
     await hand.page.setViewport(view);
@@ -96,7 +97,7 @@ class Hand {
     // Otherwise it pretends that every page is in front.
     if (browserName == 'chrome') await hand.page.emulateFocusedPage(false);
     const url = `/${bodies.size}`;
-    bodies.set(url, (html ?? readFileSync(file, 'utf8')).replace(
+    bodies.set(url, body.replace(
         '<head>', `<head><script>(${prepare})(${seconds}); (${change || (() => {})})()</script>`));
     await hand.page.goto(`http://127.0.0.1:${server.address().port}${url}`);
     return hand;
@@ -141,6 +142,13 @@ class Hand {
       const {id, firstChild} = document.activeElement;
       return id == 'view' ? 'board' : firstChild.textContent;
     });
+  }
+  /// Accessibility as axe-core judges it.
+  async judge(what) {
+    await this.page.evaluate(`(() => {${axe}})()`);
+    assert.deepEqual(await this.page.evaluate(async () => (await axe.run()).violations
+        .filter(({impact}) => impact == 'serious' || impact == 'critical')
+        .map(({help, nodes}) => [help, ...nodes.map(node => node.html)])), [], what);
   }
   title() {
     return this.page.evaluate(() => isBoxOpen() ? document.querySelector('h1').innerText : '');
@@ -270,6 +278,23 @@ if (browserName != 'webkit') {
     await hand.shortcut('a');
     await touchscreen.tap(...await hand.at('dialog button'));
     await hand.has(() => velmoran.awaited == 'input');
+    const isCoarse = await hand.page.evaluate(() => matchMedia('(pointer: coarse)').matches);
+    assert(isCoarse || browserName != 'chrome');
+    for (const [width, height, board] of [[280, 400, 280], [640, 300, 256], [820, 1180, 820]]) {
+      await hand.page.setViewport({...view, width, height});
+      await hand.has(`innerWidth == ${width}`);
+      await touchscreen.tap(...await hand.at('nav button', 'Help'));
+      await touchscreen.tap(...await hand.at('nav button', 'Official'));
+      const heights = await hand.page.evaluate(() => all('#view, nav button, [role=menu]', part => {
+        const {left, top, right, bottom} = part.getBoundingClientRect();
+        const isInside = left >= 0 && top >= 0 && right <= innerWidth && bottom < innerHeight + .1;
+        return isInside && bottom - top;
+      }).filter(height => height !== 0));
+      assert.equal(heights.length, 11, `two menus, open on ${width} by ${height}`);
+      assert(heights.every(height => height && (height >= 44 || !isCoarse)), String(heights));
+      if (isCoarse) assert.equal(Math.round(heights.at(-1)), board);
+      await touchscreen.tap(...await hand.at('nav button', 'Help'));
+    }
     await hand.close();
   });
 
@@ -354,6 +379,7 @@ check('New Game and a box in the middle of a turn', async () => {
   assert.equal(await hand.page.evaluate(() => clock.tick), null, 'timers are held');
   assert.deepEqual(await hand.page.evaluate(() => all('dialog g', group =>
       getComputedStyle(group).display)), ['none', 'none', 'inline'], 'the icon');
+  await hand.judge('box');
   await hand.page.mouse.click(...await hand.at(30));
   await hand.closeBox();
   assert.deepEqual([await hand.title(), await hand.focus()], ['', 'board']);
@@ -411,6 +437,7 @@ check('menus', async () => {
   await hand.move('nav button', 'Official');
   assert.deepEqual(await shown(), ['File', 'Help', 'Game Controls', 'About This Program',
     'Official Rules of Velmoran', 'Part 1', 'Part 2', 'Part 3']);
+  await hand.judge('menu');
   await hand.click('nav button', 'Help');
   assert.deepEqual(await shown(), ['File', 'Help']);
   await hand.page.evaluate(() => {
@@ -426,11 +453,77 @@ check('menus', async () => {
   await hand.close();
 });
 
+check('a box on a small screen', async () => {
+  const hand = await Hand.openBoard(browser);
+  await hand.shortcut('c');
+  for (const width of [700, 600, 545, 500]) {
+    await hand.page.setViewport({width, height: 600});
+    await hand.has(`innerWidth == ${width}`);
+    await hand.page.evaluate(() => new Promise(requestAnimationFrame));
+    const [areAsByHand, areJoined, text] = await hand.page.evaluate(() => [
+      all('dialog p').every(paragraph => {
+        const range = document.createRange();
+        range.selectNodeContents(paragraph);
+        const rows = new Set([...range.getClientRects()].map(({bottom}) => Math.round(bottom)));
+        return rows.size == paragraph.querySelectorAll('br').length + 1;
+      }),
+      all('dialog br').every(({offsetParent}) => !offsetParent),
+      all('dialog p')[0].innerText,
+    ]);
+    assert(width == 700 ? areAsByHand : areAsByHand || areJoined, `lines, ${width} wide`);
+    assert.match(text, /\.  To move, \n?drag/, `blanks, ${width} wide`);
+  }
+  await hand.page.setViewport({width: 640, height: 300});
+  await hand.has('innerHeight == 300');
+  assert.deepEqual(await hand.page.evaluate(() => {
+    const [view, title, text, button] = ['#view', 'dialog h1', 'dialog p', 'dialog button'].map(
+        part => all(part)[0].getBoundingClientRect());
+    return [title.top > 0, text.top >= title.bottom, button.bottom < innerHeight,
+      view.bottom < innerHeight + .1];
+  }), [true, true, true, true], 'title, text, button and board in sight');
+  await hand.keys('PageDown');
+  await hand.has(() => all('dialog')[0].scrollTop > 0);
+  await hand.closeBox();
+  await hand.close();
+});
+
+check('what comes from elsewhere changes nothing', async () => {
+  const hand = await Hand.openBoard(browser);
+  await hand.page.evaluate(() => {
+    dispatchEvent(new ErrorEvent('error', {message: 'foreign', error: new Error('foreign')}));
+    document.dispatchEvent(new Event('keydown'));
+    point('pointerdown', 9, {pointerId: 4711, buttons: 1});
+  });
+  await hand.drag(9, 13);
+  await hand.settle();
+  assert.match(await hand.board(), /g.* b\.\.\. \.bbb bbbb bbbb$/);
+  await hand.shortcut('a');
+  const body = await hand.page.evaluate(() => document.documentElement.outerHTML);
+  await hand.close(await hand.page.evaluate(() => complaints));
+  const saved = await Hand.open(browser, {body: '<!DOCTYPE html>' + body});
+  await saved.has(() => clock.tick !== null);
+  await saved.judge('splash');
+  assert.equal(await saved.title(), '');
+  assert.equal(await saved.page.evaluate(() => all('#news')[0].innerText), '');
+  await saved.settle();
+  await saved.closeBox();
+  await saved.settle();
+  await saved.drag(9, 13);
+  assert.equal(await saved.board(), Moved);
+  await saved.judge('board');
+  await saved.close();
+});
+
 check('a page that cannot go on says so', async () => {
+  assert(html.indexOf('id="program"') < html.indexOf('<main'), 'nothing is said while it comes');
   const old = await Hand.open(browser, {change: () => { delete window.DecompressionStream; }});
-  await old.has(() => complaints.length);
-  assert.match(await old.sentence(), /newer browser/);
-  await old.close(await old.page.evaluate(() => complaints));
+  await old.has(() => all('main')[0].innerText);
+  assert.match(await old.sentence(), /new enough/);
+  await old.close();
+  const forbidden = await Hand.open(browser, {body: html.replace("'wasm-unsafe-eval'", '')});
+  await forbidden.has(() => complaints.length);
+  assert.match(await forbidden.sentence(), /WebAssembly.* forbids/);
+  await forbidden.close(await forbidden.page.evaluate(() => complaints));
   const hand = await Hand.openBoard(browser);
   await hand.page.evaluate(() => {
     document.querySelector('nav [value]').value = 99;
