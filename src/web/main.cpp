@@ -44,7 +44,7 @@ TO_PAGE(see) void See(int x, int y, unsigned buttons, bool isMove) {
 /// Ends the drag: the page is left, a menu has been opened, or the like.
 TO_PAGE(cancelDrag) void CancelDrag() { TheHost().Put(InputEvent::Kind::CancelDrag); }
 
-/// The menu command at this place in `CommandsOf`.
+/// The menu command of this value.
 TO_PAGE(choose) void Choose(unsigned command) {
   TheHost().Put(InputEvent::Kind::MenuCommand, {}, command);
 }

@@ -2,7 +2,6 @@
 
 #include "toolkit/shown_form.h"
 #include "toolkit/svg.h"
-#include "web/menu_markup.h"
 
 namespace {
 
@@ -83,8 +82,7 @@ std::string FormMarkup(const Form& form) {
       groups += "<g id=\"" + id + "\"></g>";
     }
   }
-  return MenuMarkup(form.Menu) + R"(<svg id="view" tabindex="-1" role="group")" +
-         Attribute("aria-owns", order) +
+  return R"(<svg id="view" tabindex="-1" role="group")" + Attribute("aria-owns", order) +
          Attribute("width", form.Width / TwipsPerPixel) +
          Attribute("height", form.Height / TwipsPerPixel) + ViewBox(form.Width, form.Height) +
          R"(><rect width="100%" height="100%")" + Attribute("fill", form.BackColor) + "/>" +

@@ -13,6 +13,6 @@ std::string ControlMarkup(const Control& control);
 /// The outline that follows the pointer in a drag.
 std::string OutlineMarkup(const Rect& place);
 
-/// A form: its menu bar, and its client area with an empty group for each control and one for the
+/// The client area of a form, with an empty group for each control and one for the
 /// outline. The group of a control has the id "control" and its place in the form's list.
 std::string FormMarkup(const Form& form);

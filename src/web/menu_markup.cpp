@@ -19,7 +19,8 @@ std::string ItemMarkup(const MenuItem& item, const std::string& attributes) {
 }
 
 /// `firstTab` is the tab index of the first entry: the bar takes one stop, its menus none.
-std::string ItemsMarkup(const std::vector<MenuItem>& items, int firstTab, int& command) {
+std::string ItemsMarkup(const std::vector<MenuItem>& items, int firstTab,
+                        std::vector<const MenuItem*>& commands) {
   std::string markup;
   int tab = firstTab;
   for (const MenuItem& item : items) {
@@ -28,32 +29,20 @@ std::string ItemsMarkup(const std::vector<MenuItem>& items, int firstTab, int& c
     if (item.Caption == "-") {
       markup += R"(<hr role="separator">)";
     } else if (item.Items.empty()) {
-      markup += ItemMarkup(item, attributes + " value=\"" + std::to_string(command++) + "\"");
+      markup += ItemMarkup(item, attributes + " value=\"" + std::to_string(commands.size()) + "\"");
+      commands.push_back(&item);
     } else {
       attributes += R"( aria-haspopup="menu" aria-expanded="false")";
       markup += R"(<div role="none">)" + ItemMarkup(item, attributes) + R"(<div role="menu">)" +
-                ItemsMarkup(item.Items, -1, command) + "</div></div>";
+                ItemsMarkup(item.Items, -1, commands) + "</div></div>";
     }
   }
   return markup;
 }
 
-void AddCommands(const std::vector<MenuItem>& items, std::vector<const MenuItem*>& commands) {
-  for (const MenuItem& item : items) {
-    if (item.Caption != "-" && item.Items.empty()) commands.push_back(&item);
-    AddCommands(item.Items, commands);
-  }
-}
-
 }  // namespace
 
-std::string MenuMarkup(const std::vector<MenuItem>& menu) {
-  int command = 0;
-  return menu.empty() ? "" : R"(<nav role="menubar">)" + ItemsMarkup(menu, 0, command) + "</nav>";
-}
-
-std::vector<const MenuItem*> CommandsOf(const std::vector<MenuItem>& menu) {
-  std::vector<const MenuItem*> commands;
-  AddCommands(menu, commands);
-  return commands;
+std::string MenuMarkup(const std::vector<MenuItem>& menu, std::vector<const MenuItem*>& commands) {
+  commands.clear();
+  return menu.empty() ? "" : R"(<nav role="menubar">)" + ItemsMarkup(menu, 0, commands) + "</nav>";
 }

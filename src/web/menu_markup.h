@@ -6,8 +6,5 @@
 #include "toolkit/form.h"
 
 /// A menu bar as HTML; empty where there is no menu. The access key of an entry is underlined, and
-/// a command bears its place in `CommandsOf` as its value.
-std::string MenuMarkup(const std::vector<MenuItem>& menu);
-
-/// The commands of a menu in reading order.
-std::vector<const MenuItem*> CommandsOf(const std::vector<MenuItem>& menu);
+/// a command bears its place in `commands` as its value. Fills `commands` anew.
+std::string MenuMarkup(const std::vector<MenuItem>& menu, std::vector<const MenuItem*>& commands);

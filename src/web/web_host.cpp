@@ -40,9 +40,9 @@ void WebHost::Put(InputEvent::Kind what, Point at, std::size_t command) {
 void WebHost::Open(Form& form) {
   window = &form;
   shown.emplace(form);
-  commands = CommandsOf(form.Menu);
+  const std::string markup = MenuMarkup(form.Menu, commands) + FormMarkup(form);
   const std::string icon = form.Icon ? IconMarkup(*form.Icon) : "";
-  PageOpen(FormMarkup(form).c_str(), form.Caption.c_str(), icon.c_str());
+  PageOpen(markup.c_str(), form.Caption.c_str(), icon.c_str());
 }
 
 void WebHost::Refresh(const Drag& drag) {

@@ -16,8 +16,8 @@ class WebHost : public Host {
   void ShowForms(std::span<Form* const> forms, const Drag& drag) override;
   [[noreturn]] void End() override;
 
-  /// Queues input to the form that is shown. `command` is a place in the `CommandsOf` its menu, and
-  /// counts for a menu command alone.
+  /// Queues input to the form that is shown. `command` is the value that `MenuMarkup` gave a
+  /// command, and counts for a menu command alone.
   void Put(InputEvent::Kind what, Point at = {}, std::size_t command = 0);
 
  private:
@@ -26,5 +26,5 @@ class WebHost : public Host {
 
   Form* window = nullptr;  // the form that is shown; empty before the first
   std::optional<ShownForm> shown;
-  std::vector<const MenuItem*> commands;  // of its menu
+  std::vector<const MenuItem*> commands;  // of its menu, by their values
 };
