@@ -3,12 +3,11 @@
 #include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QStyle>
 #include <algorithm>
 #include <cmath>
-
-#include "toolkit/paragraphs.h"
 
 namespace {
 
@@ -38,6 +37,12 @@ QString TextOf(const std::string& text) {
   return QString::fromStdString(text).replace("\r\n", "\n");
 }
 
+/// Each paragraph on one line, to be wrapped anew. Paragraphs are what stands between blank lines.
+QString JoinBrokenLines(QString text) {
+  static const QRegularExpression singleBreak("(?<!\n)\n(?!\n)");
+  return text.replace(singleBreak, " ");
+}
+
 int WidthFor(const QString& text, const QFontMetricsF& metrics) {
   double width = 0;
   for (const QString& line : text.split('\n')) {
@@ -49,14 +54,14 @@ int WidthFor(const QString& text, const QFontMetricsF& metrics) {
 
 /// The box would wrap lines over 500 pixels, or over half of a small screen, and so break lines
 /// again that were broken by hand. Only where the screen is narrower than they are it has to.
-void KeepBrokenLines(QMessageBox& dialog, const std::string& text, int room) {
+void KeepBrokenLines(QMessageBox& dialog, int room) {
   auto* label = dialog.findChild<QLabel*>("qt_msgbox_label");
   if (!label) return;
   label->setWordWrap(true);  // as it will be, so that what stands around it can be measured
   const int around = dialog.layout()->totalMinimumSize().width() - label->minimumSizeHint().width();
   const int width = WidthFor(dialog.text(), QFontMetricsF(label->font()));
   label->setMinimumWidth(std::min(width, room - around));
-  if (width > room - around) dialog.setText(TextOf(JoinBrokenLines(text)));
+  if (width > room - around) dialog.setText(JoinBrokenLines(dialog.text()));
 }
 
 }  // namespace
@@ -69,6 +74,6 @@ void ShowModal(const MessageBox& box, QWidget* window) {
   // wide.
   const int frame = dialog.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
   const int screenWidth = dialog.screen()->availableGeometry().width();
-  KeepBrokenLines(dialog, box.Text, WidestBox(screenWidth) - 2 * frame);
+  KeepBrokenLines(dialog, WidestBox(screenWidth) - 2 * frame);
   dialog.exec();
 }

@@ -166,6 +166,17 @@ TEST(MessageBox, BreaksNoLineThatIsBrokenByHand) {
   for (const auto show : {mnuControls_Click, mnuAbout_Click}) show(desk.form);
 }
 
+TEST(MessageBox, JoinsLinesThatAreTooWideForTheScreen) {
+  const std::string wide(75, 'W');
+  QTimer::singleShot(0, [&] {
+    QWidget* dialog = QApplication::activeModalWidget();
+    EXPECT_EQ(dialog->findChild<QLabel*>("qt_msgbox_label")->text().toStdString(),
+              wide + " b c\n\nd e  f");
+    dialog->close();
+  });
+  ShowModal({wide + "\r\nb\r\nc\r\n\r\nd\r\ne  f", MessageIcon::Stop, ""}, nullptr);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "support/virtual_host.h"
-#include "toolkit/paragraphs.h"
 
 namespace {
 
@@ -118,11 +117,6 @@ TEST_F(ToolkitTest, DragsStartFollowAndEnd) {
   EXPECT_EQ(Send(Press, {50, 50}), &image);
   image.Visible = false;
   EXPECT_EQ(Send(Move, {60, 50}), nullptr) << "nothing is left to drag";
-}
-
-TEST(Paragraphs, AreJoinedForANarrowScreen) {
-  EXPECT_EQ(JoinBrokenLines("a\r\nb\r\nc\r\n\r\nd\r\ne"), "a b c\r\n\r\nd e");
-  EXPECT_EQ(JoinBrokenLines("a  b"), "a  b");
 }
 
 TEST_F(ToolkitTest, ClicksArePressedAndReleasedOnOneControl) {
