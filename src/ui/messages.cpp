@@ -20,15 +20,15 @@ constexpr const char* ControlsText =
     "both players.  When a game ends, the computer\r\n"
     "will announce whether you have won or lost.";
 
-constexpr const char* AboutText = "Velmoran " VELMORAN_VERSION
-                                  " was first created by the Velmoran project\r\n"
-                                  "in the autumn of 2026, for the class of games\r\n"
-                                  "that fit on one board and in one window.\r\n"
-                                  "\r\n"
-                                  "The game features that were still unfinished were added\r\n"
-                                  "by the interface developers of the Velmoran project in\r\n"
-                                  "the autumn of 2026; its developers of the computer player\r\n"
-                                  "rewrote the computer's game code in the same season of 2026.";
+constexpr const char* AboutText =
+    "Velmoran was first created by the Velmoran project\r\n"
+    "in the autumn of 2026, for the class of games\r\n"
+    "that fit on one board and in one window.\r\n"
+    "\r\n"
+    "The project's interface developers later worked on the\r\n"
+    "unfinished game features, and the developers of its computer\r\n"
+    "player rewrote the computer's game code, both in the\r\n"
+    "autumn of 2026.  This is version " VELMORAN_VERSION ".";
 
 constexpr const char* Part1Text =
     "Moves are allowed only on the black squares, so checkers must always move diagonally.  "
