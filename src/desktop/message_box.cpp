@@ -57,6 +57,8 @@ int WidthFor(const QString& text, const QFontMetricsF& metrics) {
 void KeepBrokenLines(QMessageBox& dialog, int room) {
   auto* label = dialog.findChild<QLabel*>("qt_msgbox_label");
   if (!label) return;
+  // At a scale like 1.5 the last line's letters reach below the height that the label asks for.
+  label->setContentsMargins(0, 0, 0, 2);
   label->setWordWrap(true);  // as it will be, so that what stands around it can be measured
   const int around = dialog.layout()->totalMinimumSize().width() - label->minimumSizeHint().width();
   const int width = WidthFor(dialog.text(), QFontMetricsF(label->font()));
