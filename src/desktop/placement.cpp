@@ -1,5 +1,7 @@
 #include "desktop/placement.h"
 
+#include <QApplication>
+#include <QBackingStore>
 #include <QEvent>
 #include <QMainWindow>
 #include <QMenuBar>
@@ -11,11 +13,27 @@
 
 namespace {
 
-constexpr double LeastScale = 0.1;  // a screen may tell of no room at all
+constexpr double LeastScale = 0.1;  // a screen may report no room at all
+
+// Room for a frame of unknown size: on Wayland no compositor reports the one that it draws. Below
+// the window, too, for it may be centred without its title bar.
+constexpr QMargins UsualFrame(4, 32, 4, 32);
 
 int MenuHeight(const QWidget& window) {
   const auto* framed = qobject_cast<const QMainWindow*>(&window);
   return framed ? framed->menuBar()->sizeHint().height() : 0;
+}
+
+/// What Qt 6.4 omits when the scale of a screen changes, or a window comes to a screen of another
+/// one: the windows and the surfaces that they are painted on stay as large as before.
+void FollowScale() {
+  for (QWidget* shown : QApplication::allWidgets()) {
+    shown->update();
+    QBackingStore* surface = shown->isWindow() ? shown->backingStore() : nullptr;
+    if (!surface) continue;
+    surface->resize(shown->size());
+    shown->windowHandle()->resize(shown->size());
+  }
 }
 
 }  // namespace
@@ -24,50 +42,64 @@ Placement::Placement(QWidget& placedWindow, FormView& placedView)
     : window(placedWindow), view(placedView) {
   window.winId();  // from here on there is a handle
   handle = window.windowHandle();
-  connect(handle, &QWindow::screenChanged, this, &Placement::WatchScreen);
+  // Queued, as the new scale arrives in several events.
+  connect(handle, &QWindow::screenChanged, this, &Placement::WatchScreen, Qt::QueuedConnection);
   handle->installEventFilter(this);
   WatchScreen();
-  MoveToCentre();
+  QRect place = window.rect();
+  place.moveCenter(window.screen()->availableGeometry().center());
+  window.setGeometry(place);
   KeepInReach();
 }
 
 bool Placement::eventFilter(QObject*, QEvent* event) {
-  // Nobody tells of the frame itself, but it is there before the window is first seen.
   const bool mayKnowFrame = event->type() == QEvent::Expose || event->type() == QEvent::Move;
-  // With the same frame as before it is the user who has moved the window, and may.
-  if (mayKnowFrame && handle->frameMargins() != frame) KeepInReach();
+  // Only once: later it is the user who moves the window, and may.
+  if (mayKnowFrame && frame.isNull() && !handle->frameMargins().isNull()) KeepInReach();
   return false;
 }
 
+/// The user may drag the window to another screen: it may change its size there, but not its place.
 void Placement::WatchScreen() {
   disconnect(roomChanged);
   roomChanged =
-      connect(window.screen(), &QScreen::availableGeometryChanged, this, &Placement::KeepInReach);
+      connect(window.screen(), &QScreen::availableGeometryChanged, this, &Placement::FollowRoom);
   Fit();
+  FollowScale();
 }
 
+/// The desktop's scale may have changed, too. Then only the handle knows where the window is.
+void Placement::FollowRoom() {
+  window.setGeometry({handle->position(), window.size()});
+  FollowScale();
+  KeepInReach();
+}
+
+/// Makes the window as large as it can be, about its own middle, and moves it as little as needed.
 void Placement::KeepInReach() {
+  QRect place = window.geometry();
   Fit();
-  const QRect room = window.screen()->availableGeometry().marginsRemoved(frame);
-  const int left = std::min(window.geometry().left(), room.left() + room.width() - window.width());
-  const int top = std::min(window.geometry().top(), room.top() + room.height() - window.height());
-  window.setGeometry(std::max(left, room.left()), std::max(top, room.top()), window.width(),
-                     window.height());
+  const QPoint middle = place.center();
+  place.setSize(window.size());
+  place.moveCenter(middle);
+  const QRect room = Room();
+  place.moveRight(std::min(place.right(), room.right()));
+  place.moveBottom(std::min(place.bottom(), room.bottom()));
+  place.moveLeft(std::max(place.left(), room.left()));
+  place.moveTop(std::max(place.top(), room.top()));
+  window.setGeometry(place);
 }
 
 void Placement::Fit() {
   frame = handle->frameMargins();
-  const QSize room = window.screen()->availableGeometry().size().shrunkBy(frame);
-  const double across = room.width() / ToPixels(view.ViewedForm().Width);
-  const double down = (room.height() - MenuHeight(window)) / ToPixels(view.ViewedForm().Height);
-  const QSize before = window.size();
+  const double across = Room().width() / ToPixels(view.ViewedForm().Width);
+  const double down = (Room().height() - MenuHeight(window)) / ToPixels(view.ViewedForm().Height);
   view.SetScale(std::clamp(std::min(across, down), LeastScale, 1.0));
   window.adjustSize();
-  if (window.size() != before) MoveToCentre();
 }
 
-void Placement::MoveToCentre() {
-  QRect place = window.rect();
-  place.moveCenter(window.screen()->availableGeometry().center());
-  window.setGeometry(place);
+/// Where the client area may be.
+QRect Placement::Room() const {
+  const bool hasUnknownFrame = view.ViewedForm().HasFrame && frame.isNull();
+  return window.screen()->availableGeometry().marginsRemoved(hasUnknownFrame ? UsualFrame : frame);
 }

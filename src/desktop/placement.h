@@ -12,18 +12,19 @@ class Placement : public QObject {
   /// Places the window, whose client area is `view`, in the centre of its screen.
   Placement(QWidget& placedWindow, FormView& placedView);
 
-  /// Sees when the window manager has drawn the frame, whose size nobody knows before.
+  /// Notices when the window manager has drawn the frame. No signal says so.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void WatchScreen();
+  void FollowRoom();
   void KeepInReach();
   void Fit();
-  void MoveToCentre();
+  QRect Room() const;
 
   QWidget& window;
   FormView& view;
   QWindow* handle = nullptr;
-  QMargins frame;  // as far as known: the title bar and the edges
+  QMargins frame;  // the title bar and the edges; empty until the window manager has told
   QMetaObject::Connection roomChanged;
 };
