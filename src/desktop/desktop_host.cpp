@@ -4,9 +4,11 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "desktop/accessibility.h"
 #include "desktop/message_box.h"
 
 DesktopHost::DesktopHost() {
+  InstallAccessibility();
   clock.start();
   alarm.setSingleShot(true);
   alarm.setTimerType(Qt::PreciseTimer);

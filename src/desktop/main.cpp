@@ -1,6 +1,5 @@
 #include <QApplication>
 
-#include "desktop/accessibility.h"
 #include "desktop/desktop_host.h"
 #include "desktop/display.h"
 #include "ui/program.h"
@@ -17,8 +16,6 @@ int main(int, char** argv) {
   QApplication::setDesktopFileName("velmoran");
   // Set any earlier, the platform would set it back.
   QApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, false);
-
-  InstallAccessibility();
 
   DesktopHost host;
   Program(host).Run();
