@@ -3,17 +3,33 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QLabel>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTimer>
 #include <random>
 
-#include "desktop/accessibility.h"
-#include "desktop/form_view.h"
+#include "desktop/desktop_host.h"
 #include "desktop/message_box.h"
 #include "desktop/painting.h"
 #include "support/desk.h"
 #include "ui/messages.h"
 #include "ui/pictures.h"
+
+namespace {
+
+std::vector<std::string> Announced;  // the names of controls that have changed
+
+}  // namespace
+
+// The screen of these tests has no assistive technology, and Qt ignores what is told to none.
+bool QAccessible::isActive() { return true; }
+void QAccessible::updateAccessibility(QAccessibleEvent* event) {
+  if (event->type() != QAccessible::NameChanged) return;
+  Announced.push_back(event->accessibleInterface()->text(QAccessible::Name).toStdString());
+}
 
 namespace {
 
@@ -71,6 +87,8 @@ TEST(View, IsSharpAtAnyRatio) {
     const int line = qRound(ratio);
     EXPECT_EQ(Count(image, size / 2, White), 2 * line) << ratio;
     EXPECT_EQ(Count(image.transformed(QTransform().rotate(90)), size / 2, White), 2 * line);
+    const int edge = qRound(10.3 * ratio);
+    EXPECT_EQ(image.pixel(edge, size / 2), White) << "the light line is the outer one";
   }
 }
 
@@ -129,41 +147,117 @@ TEST(View, KeepsACaptionInItsRoom) {
   }
 }
 
-TEST(View, TellsWhatStandsOnEachSquare) {
-  Desk desk(Board("g... .... .... .... .... .... ...G bB.."));
-  FormView view(desk.form.window);
-  const QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&view);
-  const auto nameOf = [&](int square) {
-    return board->child(square - 1)->text(QAccessible::Name).toStdString();
-  };
-  ASSERT_EQ(board->childCount(), 32);
-  EXPECT_EQ(nameOf(1), "blue man on square 1");
-  EXPECT_EQ(nameOf(2), "blue king on square 2");
-  EXPECT_EQ(nameOf(8), "green king on square 8");
-  EXPECT_EQ(nameOf(29), "green man on square 29");
-  EXPECT_EQ(nameOf(6), "free square 6");
-  desk.Drag({2, 6});
-  desk.DeliverInput();
-  EXPECT_EQ(nameOf(2), "free square 2");
-  EXPECT_EQ(nameOf(6), "blue king on square 6");
-  const QPoint middle = board->child(5)->rect().center();
-  EXPECT_EQ(board->childAt(middle.x(), middle.y()), board->child(5));
+/// The window of the main form on the real host.
+class ShownWindow {
+ public:
+  explicit ShownWindow(Desk& desk) : form(&desk.form.window) {
+    Show();
+    for (QWidget* widget : QApplication::allWidgets()) {
+      if (auto* found = dynamic_cast<FormView*>(widget)) view = found;
+    }
+  }
+
+  void Show() { host.ShowForms({&form, 1}, {}); }
+
+  void Mouse(QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held) {
+    QMouseEvent event(type, {1, 1}, view->mapToGlobal(QPointF(1, 1)), button, held, {});
+    QApplication::sendEvent(view, &event);
+  }
+
+  /// What was put into the queue: press, move, release, cancel, menu command, close.
+  std::string Told() {
+    std::string told;
+    for (const InputEvent& event : std::exchange(host.Queue, {})) {
+      told += "PMRCNX"[static_cast<int>(event.What)];
+    }
+    return told;
+  }
+
+  Form* form;
+  DesktopHost host;
+  FormView* view = nullptr;
+};
+
+TEST(Window, TellsWhatItIsToldByItsUser) {
+  Desk desk(StartPosition());
+  ShownWindow shown(desk);
+  QWidget* window = shown.view->window();
+  auto* menu = window->findChild<QMenu*>();
+  const auto left = Qt::LeftButton;
+  shown.Mouse(QEvent::MouseButtonPress, left, left);
+  shown.Mouse(QEvent::MouseMove, Qt::NoButton, left);
+  shown.Mouse(QEvent::MouseButtonRelease, left, Qt::NoButton);
+  EXPECT_EQ(shown.Told(), "PMR");
+  shown.Mouse(QEvent::MouseButtonDblClick, left, left);
+  EXPECT_EQ(shown.Told(), "P") << "the second press of a double click";
+  shown.Mouse(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
+  EXPECT_EQ(shown.Told(), "CM") << "no release has come";
+  menu->popup({});
+  EXPECT_EQ(shown.Told(), "C") << "a menu is open";
+  menu->actions().front()->trigger();
+  EXPECT_EQ(shown.Told(), "N");
+  menu->close();
+  shown.Told();
+  window->showMinimized();
+  EXPECT_EQ(shown.Told().substr(0, 1), "C") << "minimised";
+  window->hide();
+  EXPECT_EQ(shown.Told().substr(0, 1), "C") << "hidden";
+  window->close();
+  EXPECT_EQ(shown.Told(), "X");
 }
 
-TEST(MessageBox, BreaksNoLineThatIsBrokenByHand) {
+TEST(Window, TellsAssistiveTechnologyWhatStandsWhere) {
+  Desk desk(Board("g... .... .... .... .... .... .... bb.."));
+  ShownWindow shown(desk);
+  const QAccessibleInterface* board = QAccessible::queryAccessibleInterface(shown.view);
+  ASSERT_EQ(board->childCount(), 32);
+  desk.Drag({2, 6});
+  desk.DeliverInput();
+  Announced.clear();
+  shown.Show();
+  EXPECT_EQ(Announced, (std::vector<std::string>{"free square 2", "blue man on square 6"}));
+  const QRect place = board->child(5)->rect();
+  EXPECT_EQ(place, QRect(shown.view->mapToGlobal(QPoint(195, 390)), QSize(65, 65)));
+  EXPECT_EQ(board->childAt(place.center().x(), place.center().y()), board->child(5));
+}
+
+/// Shows a box, hands it over and closes it.
+void Look(const MessageBox& box, const std::function<void(QMessageBox&, QLabel&)>& look) {
+  QTimer::singleShot(0, [&look] {
+    auto* dialog = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
+    look(*dialog, *dialog->findChild<QLabel*>("qt_msgbox_label"));
+    dialog->close();
+  });
+  ShowModal(box, nullptr);
+}
+
+// Run at each ratio that screens have, by QT_SCALE_FACTOR. This screen gets smaller with it.
+TEST(MessageBox, ShowsItsTextWhole) {
   Desk desk(StartPosition());
-  desk.host.OnBox = [](const MessageBox& box) {
-    QTimer::singleShot(0, [&box] {
-      QWidget* dialog = QApplication::activeModalWidget();
-      const auto* label = dialog->findChild<QLabel*>("qt_msgbox_label");
-      EXPECT_EQ(label->heightForWidth(label->width()),
-                label->fontMetrics().size(0, label->text()).height())
-          << box.Title;
-      dialog->close();
+  desk.host.OnBox = [&](const MessageBox& box) {
+    Look(box, [&](const QMessageBox& dialog, const QLabel& label) {
+      const int width = label.fontMetrics().size(0, QString::fromStdString(box.Text)).width();
+      const bool hasRoom = width + 80 < dialog.screen()->size().width();  // icon and margins: 80
+      EXPECT_EQ(label.text().contains(QRegularExpression("\\S\n\\S")), hasRoom) << box.Title;
+      EXPECT_GE(label.width(), hasRoom ? width : 0) << "no line is broken again";
     });
-    ShowModal(box, nullptr);
   };
   for (const auto show : {mnuControls_Click, mnuAbout_Click}) show(desk.form);
+  for (std::string text = "g"; text.size() < 40; text += "\r\ng") {
+    Look({text, MessageIcon::Stop, ""}, [](const QMessageBox&, QLabel& label) {
+      const QImage image = label.grab().toImage();
+      EXPECT_EQ(Count(image, image.height() - 1, image.pixel(0, 0)), image.width())
+          << "the last of so many lines: " << label.text().count('g');
+    });
+  }
+}
+
+TEST(MessageBox, ShowsTheIconOfItsKind) {
+  for (const auto& [kind, icon] : {std::pair(MessageIcon::Stop, QMessageBox::Critical),
+                                   {MessageIcon::Warning, QMessageBox::Warning},
+                                   {MessageIcon::Information, QMessageBox::Information}}) {
+    Look({"", kind, ""}, [&](const QMessageBox& box, QLabel&) { EXPECT_EQ(box.icon(), icon); });
+  }
 }
 
 TEST(MessageBox, JoinsLinesThatAreTooWideForTheScreen) {
@@ -182,7 +276,6 @@ TEST(MessageBox, JoinsLinesThatAreTooWideForTheScreen) {
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication application(argc, argv);
-  InstallAccessibility();
   testing::InitGoogleTest(&argc, argv);
   return RUN_ALL_TESTS();
 }
