@@ -6,7 +6,7 @@ build=${BUILD:-build}
 play_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation fonts-comic-neue fonts-dejavu-core)
 demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev
-  python3 xvfb openbox xdotool wmctrl x11-utils libfaketime)
+  python3 xvfb openbox xdotool wmctrl x11-utils libfaketime xsettingsd)
 # The page takes the newest clang from 19 on whose C++ library is there for WebAssembly: of those that
 # are installed, or else of those that Debian has.
 clang=$({ dpkg-query --show 'libc++-*-dev-wasm32' || apt-cache pkgnames libc++-; } 2>/dev/null |

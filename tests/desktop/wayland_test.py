@@ -3,7 +3,6 @@ import json, os, pathlib, socket, struct, subprocess, sys, tempfile, time
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from real_window import DOWN, UP, Game, until
 
-WIDTH, HEIGHT = 800, 640
 REGISTRY, SEAT, POINTER, KEYBOARD = 2, 3, 5, 7  # the objects; 4 makes 5, and 6 makes 7
 ACTS = {DOWN: [(POINTER, 2, 0x110, 1)], UP: [(POINTER, 2, 0x110, 0)],
         "key Escape": [(KEYBOARD, 1, 1, 1), (KEYBOARD, 1, 1, 0)],
@@ -53,17 +52,17 @@ class Hand:
 class WaylandGame(Game):
     """Places are in the compositor's units at any scale, pictures in the pixels of its screen."""
 
-    def __init__(self, program, scale):
+    def __init__(self, program, scale, width=800, height=640):
         self.scale, self.pixels, self.looked = scale, 0, 0
-        super().__init__(program, f"{WIDTH * scale:.0f}x{HEIGHT * scale:.0f}")
+        self.room = width, height
+        super().__init__(program, f"{width * scale:.0f}x{height * scale:.0f}")
 
     def open(self):
         folder = self.folder.name
         os.makedirs(folder + "/default/cursors")
         pathlib.Path(folder, "default/cursors/left_ptr").write_bytes(NO_CURSOR)
         pathlib.Path(folder, "config").write_text(
-            f"output * mode {self.size} scale {self.scale}\n"
-            "default_floating_border none\nxwayland disable\n")
+            f"output * mode {self.size} scale {self.scale}\nxwayland disable\n")
         self.env |= {"XDG_RUNTIME_DIR": folder, "XDG_SESSION_TYPE": "wayland",
                      "WAYLAND_DISPLAY": "wayland-1", "SWAYSOCK": folder + "/sway",
                      "XCURSOR_PATH": folder, "WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman"}
@@ -71,7 +70,7 @@ class WaylandGame(Game):
         user = {} if os.getuid() else {"user": 65534, "group": 65534, "extra_groups": []}
         # Not atomic: else a press soon after another window's end would take hold of the frame.
         self.server = self.start("sway", "-Dnoatomic", "--config", folder + "/config", **user)
-        until("the compositor", lambda: f'"width": {WIDTH}' in
+        until("the compositor", lambda: f'"width": {self.room[0]}' in
               self.run("swaymsg", "--raw", "--type", "get_outputs"))
         self.hand = Hand(folder + "/wayland-1")
 
@@ -79,9 +78,13 @@ class WaylandGame(Game):
         nodes = [json.loads(self.run("swaymsg", "--raw", "--type", "get_tree"))]
         for node in nodes:
             nodes += node["nodes"] + node["floating_nodes"]
-            place = [node["rect"][side] for side in ("x", "y", "width", "height")]
-            if node["name"] == title and is_splash in (None, place[2] > 2 * place[3]):
-                return node["id"], *place
+            if node["name"] == title:
+                outer, place = node["rect"], node["window_rect"]
+                place = [outer["x"] + place["x"], outer["y"] + place["y"],
+                         place["width"], place["height"]]
+                assert node["deco_rect"]["y"] >= 0, "the title bar is above the screen"
+                if is_splash in (None, place[2] > 2 * place[3]):
+                    return node["id"], *place
 
     def rows(self, *place):
         if time.monotonic() > self.looked + 0.01:  # a board is read by 64 looks
@@ -96,7 +99,7 @@ class WaylandGame(Game):
     def do(self, *steps):
         for step in steps:
             place = self.middle(step) if isinstance(step, int) else step
-            for act in ACTS.get(step) or [(POINTER, 1, *place, WIDTH, HEIGHT)]:
+            for act in ACTS.get(step) or [(POINTER, 1, *place, *self.room)]:
                 self.hand.act(*act)
 
 
@@ -119,8 +122,9 @@ def play(game):
 
 
 # A game, or a stage at which the display is lost.
-for scale, stage in (1, ""), (1.5, ""), (2, ""), (1, "splash"), (1, "help"), (1, "blink"):
-    game = WaylandGame(sys.argv[1], scale)
+for scale, stage, *room in ((1, ""), (1.5, ""), (2, "", 960, 540),
+                            (1, "splash"), (1, "help"), (1, "blink")):
+    game = WaylandGame(sys.argv[1], scale, *room)
     try:
         if stage:
             game.play_to(stage)

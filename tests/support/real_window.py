@@ -1,6 +1,6 @@
 """The built program on an X server of its own, with a window manager. What the player sees is read
 from the memory of the screen, what he does is done by xdotool, and nothing sleeps for a state."""
-import mmap, os, re, struct, subprocess, tempfile, time
+import mmap, os, pathlib, re, signal, struct, subprocess, tempfile, time
 
 BOARD = 520
 BLACK, BLUE, GREEN = (0, 0, 0), (36, 1, 254), (36, 255, 2)
@@ -20,11 +20,15 @@ def until(what, probe, seconds=8):
 
 class Screen:
     def __init__(self, size="1600x1200x24"):
-        self.size = size
+        self.size, self.teller = size, None
         self.folder = tempfile.TemporaryDirectory()
+        # A message bus leaves a trace at home, by a launcher of its own or by this one.
+        bus = pathlib.Path(self.folder.name, "dbus-launch")
+        bus.write_text("#!/bin/sh\nmkdir ~/.dbus")
+        bus.chmod(0o755)
         # Nothing of the desktop that the tests run on may shine through. Leaks are Qt's, not ours.
-        self.env = {"PATH": os.environ["PATH"], "HOME": self.folder.name, "TZ": "UTC",
-                    "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
+        self.env = {"PATH": self.folder.name + ":" + os.environ["PATH"], "HOME": self.folder.name,
+                    "TZ": "UTC", "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
         self.open()
 
     def open(self):
@@ -52,6 +56,16 @@ class Screen:
     def run(self, *command):
         return subprocess.run(command, env=self.env, capture_output=True, text=True).stdout
 
+    def set_scale(self, scale):
+        """Tells all programs the scale of the desktop, those that run as well."""
+        settings, dots = pathlib.Path(self.folder.name, "settings"), int(scale * 96 * 1024)
+        settings.write_text(f"Xft/DPI {dots}\n")
+        if self.teller:
+            self.teller.send_signal(signal.SIGHUP)
+        else:
+            self.teller = self.start("xsettingsd", "-c", settings)
+        until("the scale", lambda: f"DPI {dots}" in self.run("dump_xsettings"))
+
     def window(self, title, is_splash=None):
         """A visible window of this title: its name, left, top, width and height."""
         for name in self.run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split():
@@ -71,8 +85,10 @@ class Screen:
 
 
 class Game(Screen):
-    def __init__(self, program, size="1600x1200x24", **env):
+    def __init__(self, program, size="1600x1200x24", scale=None, **env):
         super().__init__(size)
+        if scale:
+            self.set_scale(scale)
         self.env.update(env)
         self.errors = tempfile.TemporaryFile("w+")
         self.process = self.start(program, stderr=self.errors)
