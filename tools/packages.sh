@@ -13,7 +13,8 @@ clang=$({ dpkg-query --show 'libc++-*-dev-wasm32' || apt-cache pkgnames libc++-;
   sed -n 's/^libc++-\(19\|[2-9][0-9]\)-dev-wasm32.*/\1/p' | sort -n | tail -n 1) || true
 : "${clang:=19}"
 web_packages=(cmake ninja-build python3 clang-$clang lld-$clang libc++-$clang-dev-wasm32
-  libc++abi-$clang-dev-wasm32 libclang-rt-$clang-dev-wasm32 wasi-libc binaryen llvm)
+  libc++abi-$clang-dev-wasm32 libclang-rt-$clang-dev-wasm32 wasi-libc binaryen llvm
+  librsvg2-bin)
 browser_packages=(chromium firefox-esr webkit2gtk-driver xvfb)
 package_packages=("${test_packages[@]}" git debhelper lintian appstream)
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes one page that needs nothing beside itself: pack.py PROGRAM.wasm PAGE.html OUT.html
+"""Makes one page that needs nothing beside itself: pack.py PROGRAM.wasm ICON.png PAGE.html OUT.html
 
 The scripts and styles that PAGE.html names are put into their places. The policy of the page lets
 it run these alone."""
@@ -12,23 +12,29 @@ import re
 import sys
 
 
+def base64_of(data):
+    return base64.b64encode(data).decode()
+
+
 def main():
-    program, page, out = map(pathlib.Path, sys.argv[1:])
+    program, icon, page, out = map(pathlib.Path, sys.argv[1:])
     digests = {"script": "", "style": ""}
 
     def inline(reference):
         file, tag = (reference[1], "style") if reference[1] else (reference[2], "script")
         text = (page.parent / file).read_text("utf-8")
-        digest = hashlib.sha256(text.encode("utf-8")).digest()
-        digests[tag] += f" 'sha256-{base64.b64encode(digest).decode()}'"
+        digests[tag] += f" 'sha256-{base64_of(hashlib.sha256(text.encode('utf-8')).digest())}'"
         return f"<{tag}>{text}</{tag}>"
 
     text = re.sub(r'<link rel="stylesheet" href="(.+)">|<script src="(.+)"></script>', inline,
                   page.read_text("utf-8"))
     policy = ("default-src 'none'; base-uri 'none'; form-action 'none'; img-src data:; "
               f"script-src 'wasm-unsafe-eval'{digests['script']}; style-src{digests['style']}")
-    packed = base64.b64encode(gzip.compress(program.read_bytes(), mtime=0)).decode()
-    out.write_text(text.replace("@POLICY@", policy).replace("@PROGRAM@", packed), "utf-8")
+    parts = {"POLICY": policy, "ICON": base64_of(icon.read_bytes()),
+             "PROGRAM": base64_of(gzip.compress(program.read_bytes(), mtime=0))}
+    for name, part in parts.items():
+        text = text.replace(f"@{name}@", part)
+    out.write_text(text, "utf-8")
 
 
 if __name__ == "__main__":

@@ -318,6 +318,21 @@ if (browserName != 'webkit') {
   });
 }
 
+check('what the page says of itself', async () => {
+  const hand = await Hand.openBoard(browser);
+  assert.match(html, /content="default-src 'none';(?!.*unsafe-inline)/);
+  assert.deepEqual(await hand.page.evaluate(async () => {
+    const icon = new Image();
+    [icon.src] = all('[rel=apple-touch-icon]', link => link.href);
+    await icon.decode();
+    const order = all('#view')[0].getAttribute('aria-owns').trim().split(' ');
+    const names = order.map(id => document.getElementById(id).ariaLabel).filter(Boolean);
+    return [document.title, all('#view')[0].ariaLabel, icon.naturalWidth, names.length, names[8],
+      all('[rel=icon]', link => link.href.split(',')[0]), all('meta[name=description]').length];
+  }), ['Velmoran', 'Velmoran', 192, 32, 'blue man on square 9', ['data:image/svg+xml'], 1]);
+  await hand.close();
+});
+
 check('every end of a drag', async () => {
   const hand = await Hand.openBoard(browser);
   const {page} = hand;

@@ -1,0 +1,7 @@
+#include <iostream>
+
+#include "toolkit/svg.h"
+#include "ui/pictures.h"
+
+/// Prints the icon of the game as SVG.
+int main() { std::cout << IconMarkup(CheckerBoardPicture); }
