@@ -1,9 +1,10 @@
+#include <algorithm>
 #include <array>
-#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <deque>
+#include <optional>
 
 #include "soak/watcher.h"
 
@@ -194,8 +195,9 @@ void TellSeed(int signal) {
   std::_Exit(1);
 }
 
-/// Whether the game of this seed goes well; adds what there was of it to the totals.
-bool Play(Seed seed, const decltype(Watcher::Log)& log, long long& moves, long long& events) {
+/// The human's moves in the game of this seed; none if it fails. Each change goes to the log, and
+/// so does the failure.
+std::optional<int> Play(Seed seed, const decltype(Watcher::Log)& log) {
   seedUnderWay = seed;
   Desk desk;
   Watcher watcher(desk);
@@ -204,24 +206,22 @@ bool Play(Seed seed, const decltype(Watcher::Log)& log, long long& moves, long l
     Hand(watcher, seed).PlayGame();
   } catch (const ProgramEnded&) {
   } catch (const std::exception& error) {
-    if (log) std::printf("seed %llu fails at event %d: %s\n", seed, watcher.Events, error.what());
-    return false;
+    if (log) log("seed " + std::to_string(seed) + " fails: " + error.what());
+    return std::nullopt;
   }
-  moves += watcher.Moves;
-  events += watcher.Events;
-  return true;
+  return watcher.Moves;
 }
+
+void Print(const std::string& line) { std::puts(line.c_str()); }
 
 /// Plays a game that fails once more, and prints what came last.
 void PrintFailure(Seed seed) {
   std::deque<std::string> lines;
-  const auto keep = [&](const std::string& line) {
+  Play(seed, [&](const std::string& line) {
     lines.push_back(line);
-    if (lines.size() > 12) lines.pop_front();
-  };
-  long long ignored = 0;
-  Play(seed, keep, ignored, ignored);
-  for (const std::string& line : lines) std::puts(line.c_str());
+    if (lines.size() > 13) lines.pop_front();
+  });
+  std::ranges::for_each(lines, Print);
   std::printf("The whole game is printed by: soak 1 %llu\n", seed);
 }
 
@@ -237,17 +237,12 @@ int main(int count, char** arguments) {
   }
   std::signal(SIGABRT, TellSeed);
   std::signal(SIGSEGV, TellSeed);
-  const auto start = std::chrono::steady_clock::now();
   long long moves = 0;
-  long long events = 0;
-  decltype(Watcher::Log) print;
   for (Seed seed = first; seed < first + games; ++seed) {
-    if (games == 1) print = [](const std::string& line) { std::puts(line.c_str()); };
-    if (Play(seed, print, moves, events)) continue;
-    if (games > 1) PrintFailure(seed);
-    return 1;
+    const std::optional<int> played = Play(seed, games == 1 ? Print : decltype(Watcher::Log){});
+    if (!played && games > 1) PrintFailure(seed);
+    if (!played) return 1;
+    moves += *played;
   }
-  const std::chrono::duration<double> time = std::chrono::steady_clock::now() - start;
-  std::printf("%llu games, %lld human moves, %lld events, no fault, %.1f s\n", games, moves, events,
-              time.count());
+  std::printf("%llu games, %lld human moves, no fault\n", games, moves);
 }

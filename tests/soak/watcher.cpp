@@ -53,7 +53,7 @@ void Watcher::Deal(const Position& position) {
 }
 
 void Watcher::CheckEvent() {
-  Demand(++Events - lastRest < MostEvents, "the turn has no end");
+  Demand(++events < MostEvents, "the turn has no end");
   if (!desk.form.window.Visible) return;
   if (Log) Tell();
   CheckTables();
@@ -186,7 +186,7 @@ void Watcher::CheckRest() {
   } else {
     Demand(position.BlueToMove && isDragMode(1) && EndOf(position).empty(), "the game is stuck");
   }
-  lastRest = Events;
+  events = 0;
   desk.host.Boxes.clear();
 }
 

@@ -37,7 +37,6 @@ class Watcher {
   Desk& desk;
   std::function<void(const std::string& line)> Log;  // is told every change; may be empty
   int Moves = 0;                                     // of the human
-  int Events = 0;
 
  private:
   bool IsHumansTurn() const;
@@ -55,5 +54,5 @@ class Watcher {
   bool wasHumansTurn = false;
   int chain = 0;             // the square of the green piece that has jumped in this turn
   bool isAnnounced = false;  // the end of this game
-  int lastRest = 0;          // events up to then
+  int events = 0;            // since the desk was last at rest
 };
