@@ -220,7 +220,8 @@ std::string AnswerTo(const Position& board, std::string question) {
   if (word == "sort") return Sort(board, question);
   const auto merit = std::ranges::find(Merits, word);
   if (merit == Merits.end()) throw std::invalid_argument("no such question: " + word);
-  return std::to_string(Judge(board, MoveOf(board, question))[merit - Merits.begin()]);
+  const auto place = static_cast<std::size_t>(merit - Merits.begin());
+  return std::to_string(Judge(board, MoveOf(board, question))[place]);
 }
 
 /// The first answer that is not the expected one is shown with its board, the others on a line.
