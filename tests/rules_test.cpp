@@ -210,7 +210,7 @@ std::string Sort(const Position& position, const std::string& moves) {
   return Names(list);
 }
 
-std::string AnswerTo(const Position& board, std::string question) {
+std::string AnswerTo(const Position& board, std::string question) try {
   const std::string word = Cut(question, " ");
   if (word == "drag") return Drop(board, question);
   if (word == "turn" || word == "lights" || word == "draws") return Follow(board, question)[word];
@@ -222,6 +222,8 @@ std::string AnswerTo(const Position& board, std::string question) {
   if (merit == Merits.end()) throw std::invalid_argument("no such question: " + word);
   const auto place = static_cast<std::size_t>(merit - Merits.begin());
   return std::to_string(Judge(board, MoveOf(board, question))[place]);
+} catch (const std::exception& fault) {
+  return fault.what();
 }
 
 /// The first answer that is not the expected one is shown with its board, the others on a line.
@@ -230,11 +232,11 @@ TEST(Rules, HoldOnSmallBoards) {
   int faults = 0;
   for (const auto& [rule, board, question, expected] : ReadCases()) {
     const std::string seen = AnswerTo(board, question);
-    if (seen == expected || ++faults > 9) continue;
+    if (seen == expected || ++faults > 8) continue;
     told += rule + (faults == 1 ? '\n' + DrawRows(board) : ": ") + question + ": expected " +
             expected + ", is " + seen + '\n';
   }
-  EXPECT_EQ(faults, 0) << told;
+  if (faults > 0) ADD_FAILURE() << told << faults << " in all";
 }
 
 }  // namespace

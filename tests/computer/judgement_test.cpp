@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <random>
-#include <set>
 
 #include "support/board.h"
 #include "support/rules.h"
@@ -80,15 +79,10 @@ Judgement Tell(const Position& now, const MoveRecord& move) {
         return hop[0] == to && IsJump(hop) && hop[1] != from;
       });
   const bool crowns = !now.GreenKing[piece] && to <= 4 && arrives == 0;
-  return {stands,
-          arrives,
-          exposed,
-          saved,
-          stands - arrives - exposed + saved,
-          attacks,
-          crowns,
-          Traps(now, piece, from),
-          Traps(now, piece, to)};
+  const int score = stands - arrives - exposed + saved;
+  const bool holds = Traps(now, piece, from);
+  const bool traps = Traps(now, piece, to);
+  return {stands, arrives, exposed, saved, score, attacks, crowns, holds, traps};
 }
 
 Position RandomBoard(std::mt19937& random, int pieces) {
@@ -102,73 +96,56 @@ Position RandomBoard(std::mt19937& random, int pieces) {
 }
 
 /// Shows the first board on which the two differ; the boards begin with two pieces.
-TEST(Moves, AreJudgedAsTheRulesTellASecondTime) {
+TEST(Judgement, IsThatOfTheMovesBeforeAndAfter) {
   std::mt19937 random;
   for (int board = 0; board < 4000; ++board) {
     const Position position = RandomBoard(random, 2 + board / 400);
-    std::set<Move> hops;
     const MoveList moves = ListGreenMoves(position);
+    ASSERT_EQ(moves.Count, std::ssize(GreenHops(position))) << DrawRows(position);
     for (int k = 0; k < moves.Count; ++k) {
       const MoveRecord& move = moves.Items[static_cast<std::size_t>(k)];
-      hops.insert({move.FromSquare, move.ToSquare});
       const Judgement told = Tell(position, move);
       const Judgement judged = Judge(position, move);
-      for (std::size_t k = 0; k < Merits.size(); ++k) {
-        ASSERT_EQ(judged[k], told[k])
-            << Merits[k] << ' ' << move.FromSquare << '-' << move.ToSquare << '\n'
+      for (std::size_t word = 0; word < Merits.size(); ++word) {
+        ASSERT_EQ(judged[word], told[word])
+            << Merits[word] << ' ' << move.FromSquare << '-' << move.ToSquare << '\n'
             << DrawRows(position);
       }
     }
-    const std::vector<Move> expected = GreenHops(position);
-    ASSERT_EQ(hops, std::set(expected.begin(), expected.end())) << DrawRows(position);
   }
 }
 
-// The order of two moves.
-
-const MoveMerits Plain{};
-const MoveMerits Jump{.Kind = MoveKindJump, .Score = -4};
-const MoveMerits HighStep{.Score = 10};
-const MoveMerits Unsafe{.DepthAtTo = 1};
-const MoveMerits Attack{.Attacks = true};
-const MoveMerits LowAttack{.Score = -1, .Attacks = true};
-const MoveMerits UnsafeAttack{.DepthAtTo = 1, .Attacks = true};
-const MoveMerits Crowning{.IsSafeCrowning = true};
-const MoveMerits CrowningTrap{.IsSafeCrowning = true, .TrapsAtTo = true};
-const MoveMerits Trap{.TrapsAtTo = true};
-const MoveMerits UnsafeTrap{.DepthAtTo = 1, .TrapsAtTo = true};
-const MoveMerits Release{.TrapsAtFrom = true};
-const MoveMerits OtherTrap{.TrapsAtFrom = true, .TrapsAtTo = true};
-
 struct Order {
   const char* Rule;
-  const MoveMerits& First;
-  const MoveMerits& Second;
+  MoveMerits First, Second;
   bool IsSecondBetter;
   bool IsFirstBetter;  // once they stand the other way round
 };
 
+constexpr MoveMerits CrowningTrap{.IsSafeCrowning = true, .TrapsAtTo = true};
+constexpr MoveMerits OtherTrap{.TrapsAtFrom = true, .TrapsAtTo = true};
+
 const Order Orders[] = {
-    {"a jump goes before any step", HighStep, Jump, true, false},
-    {"a higher score goes before an attack", LowAttack, Plain, true, false},
-    {"at equal score an attack goes first", Plain, Attack, true, false},
-    {"a safe attack goes before an unsafe one", UnsafeAttack, Attack, true, false},
-    {"an unsafe attack counts for nothing", Plain, UnsafeAttack, false, false},
-    {"then a safe crowning goes first", Plain, Crowning, true, false},
-    {"a crowning goes before a trap", Trap, Crowning, true, false},
-    {"an attack and a crowning are each better than the other", Attack, Crowning, true, true},
-    {"an attack and a trap are each better than the other", Attack, Trap, true, true},
-    {"of two crownings the one that traps a king goes first", Crowning, CrowningTrap, true, false},
-    {"then who traps a king goes first", Plain, Trap, true, false},
-    {"who gives up a trap goes last, even for another one", OtherTrap, Plain, true, false},
-    {"if both give up a trap, who sets one goes first", Release, OtherTrap, true, false},
-    {"an unsafe trap counts for nothing", Plain, UnsafeTrap, false, false},
-    {"safety alone has been counted in the score", Unsafe, Plain, false, false},
-    {"two attacks keep their order", Attack, Attack, false, false},
-    {"two traps keep their order", Trap, Trap, false, false},
+    {"a jump goes before any step", {.Score = 9}, {.Kind = MoveKindJump}, true, false},
+    {"then the higher score", {.Score = 1, .Attacks = true}, {.Score = 2}, true, false},
+    {"then a safe attack", {}, {.Attacks = true}, true, false},
+    {"before unsafe ones", {.DepthAtTo = 1, .Attacks = true}, {.Attacks = true}, true, false},
+    {"an unsafe attack is none", {}, {.DepthAtTo = 1, .Attacks = true}, false, false},
+    {"then a safe crowning", {}, {.IsSafeCrowning = true}, true, false},
+    {"even before a trap", {.TrapsAtTo = true}, {.IsSafeCrowning = true}, true, false},
+    {"attack, crowning: each is better", {.Attacks = true}, {.IsSafeCrowning = true}, true, true},
+    {"attack, trap: each is better", {.Attacks = true}, {.TrapsAtTo = true}, true, true},
+    {"then a trap for a king", {}, {.TrapsAtTo = true}, true, false},
+    {"with a crowning too", {.IsSafeCrowning = true}, CrowningTrap, true, false},
+    {"who gives up a trap goes last", OtherTrap, {}, true, false},
+    {"unless both do", {.TrapsAtFrom = true}, OtherTrap, true, false},
+    {"an unsafe trap is none", {}, {.DepthAtTo = 1, .TrapsAtTo = true}, false, false},
+    {"safety counts in the score alone", {.DepthAtTo = 1}, {}, false, false},
+    {"two attacks keep their order", {.Attacks = true}, {.Attacks = true}, false, false},
+    {"two traps keep their order", {.TrapsAtTo = true}, {.TrapsAtTo = true}, false, false},
 };
 
-TEST(Moves, AreRankedByTheRules) {
+TEST(Ranking, KeepsItsOrder) {
   for (const auto& [rule, first, second, isSecondBetter, isFirstBetter] : Orders) {
     EXPECT_EQ(IsBetterMove(first, second), isSecondBetter) << rule;
     EXPECT_EQ(IsBetterMove(second, first), isFirstBetter) << rule;
