@@ -75,18 +75,20 @@ async function measure(name) {
       isPrimary: true, buttons, clientX: area.x + x, clientY: area.y + 5.5 * side,
     }));
     const costOf = step => {
-      const times = 4000, start = performance.now();
-      send('pointerdown', 1, side / 2);
+      const times = 1000, start = performance.now();
       for (let k = 1; k <= times; ++k) {
         const before = outline.firstElementChild;
         send('pointermove', 1, side / 2 + k % 7 * step);
         if (outline.firstElementChild == before) throw new Error('The outline has not moved.');
       }
-      const cost = (performance.now() - start) / times * 1000;
-      send('pointermove', 0, side / 2);  // without a button: the drag is over
-      return cost.toFixed(0);
+      return (performance.now() - start) / times * 1000;
     };
-    return [costOf(1), costOf(side)].join(' and ');
+    // The least of some rounds: the first ones still compile, and others work on this machine.
+    const leastOf = step => Math.min(...Array.from({length: 8}, () => costOf(step))).toFixed(0);
+    send('pointerdown', 1, side / 2);
+    const costs = [leastOf(1), leastOf(side)].join(' and ');
+    send('pointermove', 0, side / 2);  // without a button: the drag is over
+    return costs;
   });
   const area = await (await tab.$('#view')).boundingBox();
   const at = (column, row) => [area.x + (column + .5) * area.width / 8, area.y + (row + .5) * area.height / 8];

@@ -4,6 +4,7 @@
 function watchPointer() {
   /** The pointer whose buttons are down. @type {number | undefined} */
   let holder;
+  let area = view.getBoundingClientRect();
   /** @param {PointerEvent} event */
   const follow = event => {
     if (!event.isPrimary || event.pointerId != (holder ?? event.pointerId)) return;
@@ -12,7 +13,8 @@ function watchPointer() {
       holder = event.pointerId;
       view.focus();
     }
-    const area = view.getBoundingClientRect();
+    // To ask for it again in a drag would lay the page out anew for each event.
+    if (!event.buttons || event.type == 'pointerdown') area = view.getBoundingClientRect();
     const scale = view.viewBox.baseVal.width / area.width;
     const isMove = event.type == 'pointermove';
     const way = isMove ? event.getCoalescedEvents?.() ?? [] : [];
