@@ -33,9 +33,8 @@ class Screen:
 
     def open(self):
         number, told = os.pipe()
-        self.server = self.start(
-            "Xvfb", "-displayfd", str(told), "-fbdir", self.folder.name, "-screen", "0",
-            self.size, "-nocursor", "-noreset", pass_fds=[told])
+        command = f"Xvfb -displayfd {told} -fbdir {self.folder.name} -nocursor -noreset -screen 0"
+        self.server = self.start(*command.split(), self.size, pass_fds=[told])
         os.close(told)
         with open(number) as line:
             self.env["DISPLAY"] = ":" + line.readline().strip()
