@@ -26,12 +26,20 @@ def main():
         digests[tag] += f" 'sha256-{base64_of(hashlib.sha256(text.encode('utf-8')).digest())}'"
         return f"<{tag}>{text}</{tag}>"
 
-    text = re.sub(r'<link rel="stylesheet" href="(.+)">|<script src="(.+)"></script>', inline,
-                  page.read_text("utf-8"))
-    policy = ("default-src 'none'; base-uri 'none'; form-action 'none'; img-src data:; "
-              f"script-src 'wasm-unsafe-eval'{digests['script']}; style-src{digests['style']}")
-    parts = {"POLICY": policy, "ICON": base64_of(icon.read_bytes()),
-             "PROGRAM": base64_of(gzip.compress(program.read_bytes(), mtime=0))}
+    text = re.sub(
+        r'<link rel="stylesheet" href="(.+)">|<script src="(.+)"></script>',
+        inline,
+        page.read_text("utf-8"),
+    )
+    policy = (
+        "default-src 'none'; base-uri 'none'; form-action 'none'; img-src data:; "
+        f"script-src 'wasm-unsafe-eval'{digests['script']}; style-src{digests['style']}"
+    )
+    parts = {
+        "POLICY": policy,
+        "ICON": base64_of(icon.read_bytes()),
+        "PROGRAM": base64_of(gzip.compress(program.read_bytes(), mtime=0)),
+    }
     for name, part in parts.items():
         text = text.replace(f"@{name}@", part)
     out.write_text(text, "utf-8")

@@ -1,12 +1,16 @@
 """Plays one case in a real window: real_window_test.py PROGRAM CASE. Bare, it lists the cases."""
+
 import glob, os, pathlib, subprocess, sys, time
+
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from real_window import BOARD, DOWN, START, UP, Game, Screen, until
 
 FAKE = {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketime.so.1"}
 SLOW = FAKE | {"FAKETIME": "+0 x0.1"}  # a splash that lasts for 25 s
-NOON = FAKE | {"FAKETIME": "2024-01-01 12:00:00",
-               "FAKETIME_DONT_FAKE_MONOTONIC": "1"}  # then a game soon offers a double jump
+NOON = FAKE | {
+    "FAKETIME": "2024-01-01 12:00:00",
+    "FAKETIME_DONT_FAKE_MONOTONIC": "1",
+}  # then a game soon offers a double jump
 
 
 def splash(game):
@@ -37,6 +41,7 @@ def new_game(game):
 
 def rest(game):
     """A game at rest, here after a computer's turn that was broken off, costs nothing at all."""
+
     def cost():
         process = f"/proc/{game.process.pid}/"
         lines = [line for task in glob.glob(process + "task/*/status") for line in open(task)]
@@ -47,6 +52,7 @@ def rest(game):
         before = cost()
         time.sleep(seconds)
         return cost() == before
+
     new_game(game)
     until("rest", lambda: is_unchanged(0.3))
     assert is_unchanged(2), "something woke the game"
@@ -70,11 +76,17 @@ def drags(game):
     other = until("another window", lambda: game.window("Event Tester"))[0]
     menu_bar, outside = (game.left + 30, game.top - 10), (100, 400)
     file_menu = game.left + 20, game.top - 8
-    for before, *way in ([[], menu_bar, UP], [[], outside, UP], [[], "key Escape"],
-                         [[file_menu, "click 1 key Escape"], "key Escape"],
-                         [["key alt key Escape"], "key Escape"], [[], "key ctrl+n"],
-                         [[], "mousedown 3 mouseup 3"],
-                         [[], f"windowactivate {other}"], [[], f"windowfocus {other}"]):
+    for before, *way in (
+        [[], menu_bar, UP],
+        [[], outside, UP],
+        [[], "key Escape"],
+        [[file_menu, "click 1 key Escape"], "key Escape"],
+        [["key alt key Escape"], "key Escape"],
+        [[], "key ctrl+n"],
+        [[], "mousedown 3 mouseup 3"],
+        [[], f"windowactivate {other}"],
+        [[], f"windowfocus {other}"],
+    ):
         game.do(*before)
         game.do(10, DOWN, 14)
         until("the outline", lambda: game.picture() != game.at_rest)
@@ -165,10 +177,14 @@ def display_lost(game):
 
 def no_display(game):
     poor = Screen("640x480x8")
-    for env, reason in (({}, "connect"), ({"DISPLAY": ":987654"}, ":987654"),
-                        ({"XDG_SESSION_TYPE": "wayland"}, "connect"), (poor.env, "8 bits"),
-                        ({"QT_QPA_PLATFORM": "nonsense"}, '"nonsense"'),
-                        ({"QT_QPA_PLATFORM": "linuxfb:fb=/none"}, "/none")):
+    for env, reason in (
+        ({}, "connect"),
+        ({"DISPLAY": ":987654"}, ":987654"),
+        ({"XDG_SESSION_TYPE": "wayland"}, "connect"),
+        (poor.env, "8 bits"),
+        ({"QT_QPA_PLATFORM": "nonsense"}, '"nonsense"'),
+        ({"QT_QPA_PLATFORM": "linuxfb:fb=/none"}, "/none"),
+    ):
         done = subprocess.run(sys.argv[1:2], env=env, capture_output=True, text=True, timeout=8)
         assert done.returncode == 1 and done.stderr.count("\n") == 1 and not done.stdout, done
         assert reason in done.stderr, done
@@ -176,20 +192,33 @@ def no_display(game):
 
 
 CASES = {  # the stage to play to, what happens then, and what the game is started with
-    "no_display": ("turn", no_display, {}), "splash": ("splash", splash, SLOW),
-    "whole": ("splash", whole, {}), "scale_changes": ("help", scale_changes, {"scale": 1}),
-    "rest": ("blink", rest, {}), "help_holds_the_turn": ("blink", help_holds_the_turn, {}),
+    "no_display": ("turn", no_display, {}),
+    "splash": ("splash", splash, SLOW),
+    "whole": ("splash", whole, {}),
+    "scale_changes": ("help", scale_changes, {"scale": 1}),
+    "rest": ("blink", rest, {}),
+    "help_holds_the_turn": ("blink", help_holds_the_turn, {}),
     "rules": ("turn", rules, {"size": "1040x800x24"}),  # where Qt leaves a box least room
     "double_jump": ("turn", lambda game: double_jump(game, 5, 14, 23), NOON),
-    "double_jump_in_a_leap": ("turn", lambda game: double_jump(game, 5, 23), NOON)}
+    "double_jump_in_a_leap": ("turn", lambda game: double_jump(game, 5, 23), NOON),
+}
 for scale in "1", "1.5", "2":
     CASES[f"drags_at_{scale}"] = "turn", drags, {"QT_SCALE_FACTOR": scale}
 for size, scale in ("1280x720", "1.5"), ("400x400", "1"):
     more = {"QT_SCALE_FACTOR": scale, "size": size + "x24"}
     CASES[f"small_screen_{size}"] = "help", small_screen, more
-for stage, act in (("splash", closed), ("turn", exited_by_menu), ("drag", exited), ("drag", closed),
-                   ("pause", exited), ("blink", closed), ("last_blink", exited),
-                   ("splash", display_lost), ("help", display_lost), ("blink", display_lost)):
+for stage, act in (
+    ("splash", closed),
+    ("turn", exited_by_menu),
+    ("drag", exited),
+    ("drag", closed),
+    ("pause", exited),
+    ("blink", closed),
+    ("last_blink", exited),
+    ("splash", display_lost),
+    ("help", display_lost),
+    ("blink", display_lost),
+):
     CASES[f"{act.__name__}_at_{stage}"] = stage, act, SLOW if stage == "splash" else {}
 
 

@@ -1,17 +1,23 @@
 """Plays a short game under a Wayland compositor, at each of the scales: wayland_test.py PROGRAM."""
+
 import json, os, pathlib, socket, struct, subprocess, sys, tempfile, time
+
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from real_window import DOWN, UP, Game, until
 
 REGISTRY, SEAT, POINTER, KEYBOARD = 2, 3, 5, 7  # the objects; 4 makes 5, and 6 makes 7
-ACTS = {DOWN: [(POINTER, 2, 0x110, 1)], UP: [(POINTER, 2, 0x110, 0)],
-        "key Escape": [(KEYBOARD, 1, 1, 1), (KEYBOARD, 1, 1, 0)],
-        "key Return": [(KEYBOARD, 1, 28, 1), (KEYBOARD, 1, 28, 0)]}
+ACTS = {
+    DOWN: [(POINTER, 2, 0x110, 1)],
+    UP: [(POINTER, 2, 0x110, 0)],
+    "key Escape": [(KEYBOARD, 1, 1, 1), (KEYBOARD, 1, 1, 0)],
+    "key Return": [(KEYBOARD, 1, 28, 1), (KEYBOARD, 1, 28, 0)],
+}
 KEYMAP = b"""xkb_keymap { xkb_keycodes { include "evdev" }; xkb_types { include "complete" };
   xkb_compat { include "complete" }; xkb_symbols { include "pc+us" }; };\0"""
 # The file of a cursor that nobody sees, of one pixel: any other would be in the pictures.
-NO_CURSOR = struct.pack("<4s16I", b"Xcur", 16, 0x10000, 1, 0xfffd0002, 24, 28,
-                        36, 0xfffd0002, 24, 1, 1, 1, 0, 0, 0, 0)
+NO_CURSOR = struct.pack(
+    "<4s16I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28, 36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, 0
+)
 
 
 class Hand:
@@ -22,8 +28,10 @@ class Hand:
         self.compositor.connect(path)
         self.send(1, 1, REGISTRY)
         self.bind(b"wl_seat\0", SEAT)
-        for device, maker in ((POINTER, b"zwlr_virtual_pointer_manager_v1\0"),
-                              (KEYBOARD, b"zwp_virtual_keyboard_manager_v1\0")):
+        for device, maker in (
+            (POINTER, b"zwlr_virtual_pointer_manager_v1\0"),
+            (KEYBOARD, b"zwp_virtual_keyboard_manager_v1\0"),
+        ):
             self.bind(maker, device - 1)
             self.send(device - 1, 0, SEAT, device)
         with tempfile.TemporaryFile(buffering=0) as keymap:
@@ -35,7 +43,7 @@ class Hand:
         while interface not in self.told:
             self.told += self.compositor.recv(4096)
         at = self.told.index(interface)
-        number, length = struct.unpack("=II", self.told[at - 8:at])
+        number, length = struct.unpack("=II", self.told[at - 8 : at])
         self.send(REGISTRY, 0, number, length, interface, 1, name)
 
     def send(self, target, request, *words, files=()):
@@ -62,16 +70,26 @@ class WaylandGame(Game):
         os.makedirs(folder + "/default/cursors")
         pathlib.Path(folder, "default/cursors/left_ptr").write_bytes(NO_CURSOR)
         pathlib.Path(folder, "config").write_text(
-            f"output * mode {self.size} scale {self.scale}\nxwayland disable\n")
-        self.env |= {"XDG_RUNTIME_DIR": folder, "XDG_SESSION_TYPE": "wayland",
-                     "WAYLAND_DISPLAY": "wayland-1", "SWAYSOCK": folder + "/sway",
-                     "XCURSOR_PATH": folder, "WLR_BACKENDS": "headless", "WLR_RENDERER": "pixman"}
+            f"output * mode {self.size} scale {self.scale}\nxwayland disable\n"
+        )
+        self.env |= {
+            "XDG_RUNTIME_DIR": folder,
+            "XDG_SESSION_TYPE": "wayland",
+            "WAYLAND_DISPLAY": "wayland-1",
+            "SWAYSOCK": folder + "/sway",
+            "XCURSOR_PATH": folder,
+            "WLR_BACKENDS": "headless",
+            "WLR_RENDERER": "pixman",
+        }
         os.chmod(folder, 0o777)  # for sway refuses to be root
         user = {} if os.getuid() else {"user": 65534, "group": 65534, "extra_groups": []}
         # Not atomic: else a press soon after another window's end would take hold of the frame.
         self.server = self.start("sway", "-Dnoatomic", "--config", folder + "/config", **user)
-        until("the compositor", lambda: f'"width": {self.room[0]}' in
-              self.run("swaymsg", "--raw", "--type", "get_outputs"))
+        until(
+            "the compositor",
+            lambda: f'"width": {self.room[0]}'
+            in self.run("swaymsg", "--raw", "--type", "get_outputs"),
+        )
         self.hand = Hand(folder + "/wayland-1")
 
     def window(self, title, is_splash=None):
@@ -80,8 +98,12 @@ class WaylandGame(Game):
             nodes += node["nodes"] + node["floating_nodes"]
             if node["name"] == title:
                 outer, place = node["rect"], node["window_rect"]
-                place = [outer["x"] + place["x"], outer["y"] + place["y"],
-                         place["width"], place["height"]]
+                place = [
+                    outer["x"] + place["x"],
+                    outer["y"] + place["y"],
+                    place["width"],
+                    place["height"],
+                ]
                 assert node["deco_rect"]["y"] >= 0, "the title bar is above the screen"
                 if is_splash in (None, place[2] > 2 * place[3]):
                     return node["id"], *place
@@ -92,7 +114,7 @@ class WaylandGame(Game):
             _, size, _, seen = told.split(b"\n", 3)
             self.width, self.memory = int(size.split()[0]), bytearray(len(seen) // 3 * 4)
             for colour in range(3):
-                self.memory[colour::4] = seen[2 - colour::3]
+                self.memory[colour::4] = seen[2 - colour :: 3]
             self.looked = time.monotonic()
         return super().rows(*(round(length * self.scale) for length in place))
 
@@ -122,8 +144,14 @@ def play(game):
 
 
 # A game, or a stage at which the display is lost.
-for scale, stage, *room in ((1, ""), (1.5, ""), (2, "", 960, 540),
-                            (1, "splash"), (1, "help"), (1, "blink")):
+for scale, stage, *room in (
+    (1, ""),
+    (1.5, ""),
+    (2, "", 960, 540),
+    (1, "splash"),
+    (1, "help"),
+    (1, "blink"),
+):
     game = WaylandGame(sys.argv[1], scale, *room)
     try:
         if stage:

@@ -1,5 +1,6 @@
 """The built program on an X server of its own, with a window manager. What the player sees is read
 from the memory of the screen, what he does is done by xdotool, and nothing sleeps for a state."""
+
 import mmap, os, pathlib, re, signal, struct, subprocess, tempfile, time
 
 BOARD = 520
@@ -27,8 +28,12 @@ class Screen:
         bus.write_text("#!/bin/sh\nmkdir ~/.dbus")
         bus.chmod(0o755)
         # Nothing of the desktop that the tests run on may shine through. Leaks are Qt's, not ours.
-        self.env = {"PATH": self.folder.name + ":" + os.environ["PATH"], "HOME": self.folder.name,
-                    "TZ": "UTC", "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0"}
+        self.env = {
+            "PATH": self.folder.name + ":" + os.environ["PATH"],
+            "HOME": self.folder.name,
+            "TZ": "UTC",
+            "ASAN_OPTIONS": "detect_leaks=0:verify_asan_link_order=0",
+        }
         self.open()
 
     def open(self):
@@ -49,8 +54,13 @@ class Screen:
 
     def start(self, *command, stderr=subprocess.DEVNULL, **more):
         """Starts a program that ends with this one, in whatever way this one ends."""
-        return subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], env=self.env,
-                                stdout=subprocess.DEVNULL, stderr=stderr, **more)
+        return subprocess.Popen(
+            ["setpriv", "--pdeathsig", "KILL", *command],
+            env=self.env,
+            stdout=subprocess.DEVNULL,
+            stderr=stderr,
+            **more,
+        )
 
     def run(self, *command):
         return subprocess.run(command, env=self.env, capture_output=True, text=True).stdout
@@ -76,7 +86,7 @@ class Screen:
     def rows(self, left, top, width, height):
         for y in range(top, top + height):
             start = self.pixels + 4 * (y * self.width + left)
-            yield self.memory[start:start + 4 * width]
+            yield self.memory[start : start + 4 * width]
 
     def colours(self, left, top, width=1, height=1):
         pixels = b"".join(self.rows(left, top, width, height))
@@ -102,8 +112,10 @@ class Game(Screen):
         self.measure()
         yield "help"
         self.do("key Return")
-        until("the start position, with no grey left of the help", lambda:
-              self.board() == START and max(map(min, self.colours(*self.inside))) < 3)
+        until(
+            "the start position, with no grey left of the help",
+            lambda: self.board() == START and max(map(min, self.colours(*self.inside))) < 3,
+        )
         self.at_rest = self.picture()
         yield "turn"
         self.do(10, DOWN, 14)
@@ -116,8 +128,11 @@ class Game(Screen):
         self.blinking = until("a blink", lambda: self.board().find("*") + 1)
         yield "blink"
         # A square read while it is painted may look empty: so all of the answer is waited for.
-        until("the answer and its last blink", lambda: ["*.", ".g"] == [
-            now + before for now, before in zip(self.board(), moved) if now != before])
+        until(
+            "the answer and its last blink",
+            lambda: ["*.", ".g"]
+            == [now + before for now, before in zip(self.board(), moved) if now != before],
+        )
         yield "last_blink"
 
     def measure(self):
@@ -136,8 +151,10 @@ class Game(Screen):
         """The point in the middle of a square, or so many pixels of the form beside it."""
         row, place = divmod(square - 1, 4)
         scale = self.side / BOARD
-        return (int(self.left + (65 * (2 * place + row % 2) + 32.5 + right) * scale),
-                int(self.top + (65 * (7 - row) + 32.5 + down) * scale))
+        return (
+            int(self.left + (65 * (2 * place + row % 2) + 32.5 + right) * scale),
+            int(self.top + (65 * (7 - row) + 32.5 + down) * scale),
+        )
 
     def piece(self, square):
         ground = self.colours(*self.middle(square, -30, -30)).pop()
@@ -158,8 +175,11 @@ class Game(Screen):
 
     def move(self, *squares):
         """Tries until the piece follows, which it does from the end of the computer's turn on."""
-        until(f"the move {squares}", lambda: self.piece(squares[-1]) in "bB" or
-              self.do(squares[0], DOWN, *squares[1:], UP, "sleep 0.1"))
+        until(
+            f"the move {squares}",
+            lambda: self.piece(squares[-1]) in "bB"
+            or self.do(squares[0], DOWN, *squares[1:], UP, "sleep 0.1"),
+        )
 
     def ended(self):
         """Waits for the process to end: its exit code, the seconds it took and what it said."""
