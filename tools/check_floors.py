@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Checks that the sources keep to the floors of docs/architecture.md, whose list of folders is read
-here. A file includes files of its own folder and of folders below it, no files include each other in
-a circle, and only the desktop includes a Qt header. Prints what breaks a rule; exit code 1 if
+here. A file includes files of its own folder and of folders below it, no files include each other
+in a circle, and only the desktop includes a Qt header. Prints what breaks a rule; exit code 1 if
 anything does."""
 
 import graphlib

@@ -2,8 +2,8 @@
 """Plays one real game on a virtual screen by itself: demo.py PROGRAM FOLDER
 
 A simple hand plays blue with real pointer events: it takes a jump where there is one, and otherwise
-any step. Each turn is printed as it happens. Pictures of the splash, the opening, a capture, the last
-message and the end are left in the folder."""
+any step. Each turn is printed as it happens. Pictures of the splash, the opening, a capture, the
+last message and the end are left in the folder."""
 
 import itertools
 import pathlib

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 """Measures what programs with a window cost: measure.py [--runs N] PROGRAM [PROGRAM ...]
 
-Each program is run N times in turn on an X server of its own. Printed are medians: milliseconds until
-the first pixels and until the picture has settled, processor time up to 3 s, PSS and USS in MiB once
-the program is at rest, context switches and processor time in 10 s of rest, and processor time for
-1,000 mouse movements. A help box that is open by then is closed with Enter before the rest is
-measured."""
+Each program is run N times in turn on an X server of its own. Printed are medians: milliseconds
+until the first pixels and until the picture has settled, processor time up to 3 s, PSS and USS in
+MiB once the program is at rest, context switches and processor time in 10 s of rest, and processor
+time for 1,000 mouse movements. A help box that is open by then is closed with Enter before the rest
+is measured."""
 
 import argparse
 import pathlib

@@ -91,7 +91,8 @@ async function measure(name) {
     return costs;
   });
   const area = await (await tab.$('#view')).boundingBox();
-  const at = (column, row) => [area.x + (column + .5) * area.width / 8, area.y + (row + .5) * area.height / 8];
+  const at = (column, row) =>
+      [area.x + (column + .5) * area.width / 8, area.y + (row + .5) * area.height / 8];
   await tab.mouse.move(...at(0, 5));
   await tab.mouse.down();
   await tab.mouse.move(...at(1, 4));

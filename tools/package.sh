@@ -58,7 +58,9 @@ mkdir -p "$scratch"/root/var/lib/dpkg/{info,updates}
 touch "$scratch/root/var/lib/dpkg/status"
 quietly apt-get install --simulate "$deb"
 in_scratch_root --install "$deb"
-python3 -B tests/desktop/real_window_test.py "$scratch/root/usr/games/velmoran" exited_by_menu_at_turn
+game=$scratch/root/usr/games/velmoran
+python3 -B tests/desktop/real_window_test.py "$game" exited_by_menu_at_turn
 in_scratch_root --purge velmoran
-[[ -z $(find "$scratch/root" -mindepth 1 -not -path "$scratch/root/var*") ]] || fail "files were left"
+left=$(find "$scratch/root" -mindepth 1 -not -path "$scratch/root/var*")
+[[ ! $left ]] || fail "files were left: $left"
 sha256sum "$deb"

@@ -1,20 +1,22 @@
-# Sourced by play, test, web and .ci/run: what each needs from Debian, and how a build is configured.
+# shellcheck shell=bash disable=SC2034 # the lists are used where this file is sourced
+# What play, test, web and .ci/run share: which packages each needs, and how a build is configured.
 
 build=${BUILD:-build}
 
 # The fonts are those of the splash window. The xcb plugin comes with Qt itself.
-play_packages=(g++ cmake ninja-build qt6-base-dev fonts-liberation fonts-comic-neue fonts-dejavu-core)
+play_packages=(g++ cmake ninja-build qt6-base-dev
+  fonts-liberation fonts-comic-neue fonts-dejavu-core)
 demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime xsettingsd)
-# The page takes the newest clang from 19 on whose C++ library is there for WebAssembly: of those that
-# are installed, or else of those that Debian has.
+# The page takes the newest clang from 19 on whose C++ library is there for WebAssembly: of those
+# that are installed, or else of those that Debian has.
 clang=$({ dpkg-query --show 'libc++-*-dev-wasm32' || apt-cache pkgnames libc++-; } 2>/dev/null |
   sed -n 's/^libc++-\(19\|[2-9][0-9]\)-dev-wasm32.*/\1/p' | sort -n | tail -n 1) || true
 : "${clang:=19}"
-web_packages=(cmake ninja-build python3 clang-$clang lld-$clang libc++-$clang-dev-wasm32
-  libc++abi-$clang-dev-wasm32 libclang-rt-$clang-dev-wasm32 wasi-libc binaryen llvm
-  librsvg2-bin)
+web_packages=(cmake ninja-build python3 wasi-libc binaryen llvm librsvg2-bin "clang-$clang"
+  "lld-$clang" "libc++-$clang-dev-wasm32" "libc++abi-$clang-dev-wasm32"
+  "libclang-rt-$clang-dev-wasm32")
 browser_packages=(chromium firefox-esr webkit2gtk-driver xvfb)
 package_packages=("${test_packages[@]}" git debhelper lintian appstream)
 
@@ -24,7 +26,8 @@ install_missing() {
   local installed package missing=() as_root=()
   { command -v apt-get && command -v dpkg-query; } >/dev/null || return 0
   # dpkg-query fails where it knows one of the names not at all; what it prints still counts.
-  installed=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null || true)
+  installed=$(dpkg-query --showformat='${db:Status-Status} ${Package}\n' --show "$@" 2>/dev/null) ||
+    true
   for package; do
     grep -qxF "installed $package" <<<"$installed" || missing+=("$package")
   done
@@ -41,15 +44,25 @@ install_missing() {
   return 1
 }
 
+# Fetches into $build what tests/web/package.json names, if that has changed.
+install_npm_packages() {
+  local lists=(tests/web/package.json tests/web/package-lock.json)
+  mkdir -p "$build"
+  if ! cmp -s "${lists[1]}" "$build/package-lock.json" || [[ ! -d $build/node_modules ]]; then
+    cp "${lists[@]}" "$build"
+    npm ci --prefix "$build" --ignore-scripts --no-audit --no-fund
+  fi
+}
+
 # Configures $build by a preset of CMakePresets.json and further options of cmake. Where the sources
 # have been moved it begins anew.
 configure() {
-  local sources fresh=()
+  local sources cache=$build/CMakeCache.txt fresh=()
   if ! mkdir -p "$build" 2>/dev/null || [[ ! -w $build ]]; then
     echo "Nothing can be written to $build. To build elsewhere: BUILD=FOLDER $0" >&2
     return 1
   fi
-  sources=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$build/CMakeCache.txt" 2>/dev/null || true)
+  sources=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache" 2>/dev/null) || true
   [[ ! $sources || $sources -ef . ]] || fresh=(--fresh)
   ! command -v ninja >/dev/null || export CMAKE_GENERATOR=Ninja
   cmake --preset "$1" -B "$build" "${fresh[@]}" "${@:2}" >/dev/null

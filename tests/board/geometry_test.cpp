@@ -1,6 +1,7 @@
+#include "board/geometry.h"
+
 #include <gtest/gtest.h>
 
-#include "board/geometry.h"
 #include "support/rules.h"
 
 namespace {

@@ -136,7 +136,7 @@ class Game(Screen):
         yield "last_blink"
 
     def measure(self):
-        """Finds the board, which stands below the menu bar and may be larger or smaller than 520."""
+        """Finds the board, which is below the menu bar and may be larger or smaller than 520."""
         self.name, self.left, top, self.side, height = self.window(" Velmoran", False)
         self.top = top + height - self.side
         self.client_area = self.left, self.top, self.side, self.side
