@@ -9,7 +9,7 @@
 #include "desktop/form_window.h"
 #include "toolkit/host.h"
 
-/// The host of the real game: Qt 6 Widgets.
+/// The host of the real game: Qt 6 Widgets. A form that it shows must live until it is closed.
 class DesktopHost : public Host {
  public:
   DesktopHost();

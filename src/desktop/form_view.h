@@ -5,7 +5,7 @@
 #include "toolkit/shown_form.h"
 
 /// The client area of a form: one widget that paints all of its controls, as large as the form
-/// unless it has been made smaller.
+/// unless it has been made smaller. The form must outlive it.
 class FormView : public QWidget {
  public:
   explicit FormView(const Form& viewedForm);

@@ -8,7 +8,7 @@
 #include "desktop/input_filter.h"
 #include "desktop/placement.h"
 
-/// A form on the screen.
+/// A form on the screen. The form must outlive it, and so must all that its sink refers to.
 class FormWindow {
  public:
   /// Builds and shows the window, as its `Placement` has it. `sink` takes its raw input.
@@ -28,7 +28,7 @@ class FormWindow {
 
   Form& form;
   FormView* view = nullptr;  // is the window itself where there is no frame
-  InputFilter filter;
+  InputFilter filter;        // outlives the window that it watches
   std::unique_ptr<QWidget> window;
   std::unique_ptr<Placement> placement;
 };

@@ -6,7 +6,8 @@
 #include "desktop/form_view.h"
 #include "toolkit/buttons.h"
 
-/// Translates what happens to a window into the raw input of its form.
+/// Translates what happens to a window into the raw input of its form. It must outlive the window,
+/// and the form must outlive both.
 class InputFilter : public QObject {
  public:
   InputFilter(Form& inputForm, std::function<void(const InputEvent&)> inputSink)

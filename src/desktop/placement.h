@@ -9,7 +9,8 @@
 /// a whole, and with its top left corner on the part of the screen that is free for windows.
 class Placement : public QObject {
  public:
-  /// Places the window, whose client area is `view`, in the centre of its screen.
+  /// Places the window, whose client area is `view`, in the centre of its screen. Both must outlive
+  /// the placement.
   Placement(QWidget& placedWindow, FormView& placedView);
 
   /// Notices when the window manager has drawn the frame. No signal says so.

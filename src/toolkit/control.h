@@ -18,16 +18,16 @@ struct ControlEvents {
   std::function<void(int index, const Control& source)> DragDrop{};
 };
 
-struct Font {
+struct CaptionFont {
   std::vector<std::string> Families;  // the first that is installed is taken
   int Points = 0;
 };
 
 enum class ControlKind {
-  Label,       // a filled or transparent rectangle with a centred caption
+  Label,       // a filled or transparent rectangle; its caption is centred across, at the top
   Image,       // shows a picture, stretched to its size
-  PictureBox,  // keeps a picture for images to share
-  Border,      // an outline only
+  PictureBox,  // keeps a picture for images to share, and is never drawn
+  Border,      // a line along the edges of its rectangle, inside of it
 };
 
 /// One element of a window as plain data: whatever is written here is on the screen after the
@@ -47,7 +47,7 @@ struct Control {
   std::optional<Color> BackColor;      // Label: transparent while empty
   Color ForeColor;                     // Label: its caption; Border: its line
   std::string Caption;                 // UTF-8
-  ::Font Font;
+  CaptionFont Font;
   int CaptionWidth = 0;  // Label: twips that its caption may take; 0: the whole width
   int LineWidth = 0;     // Border: pixels
 

@@ -11,12 +11,13 @@
 struct MenuItem {
   std::string Name{};
   std::string Caption{};   // "&" stands before the access key; "-" is a separator
-  std::string Shortcut{};  // such as "Ctrl+N"; empty: none
+  std::string Shortcut{};  // "Ctrl+" and a capital letter; empty: none
   std::function<void()> Click{};
   std::vector<MenuItem> Items{};
 };
 
-/// One window as plain data.
+/// One window as plain data. Once it has been shown, the form, its controls and its menu keep their
+/// addresses and their number, and of what is seen only what a `Look` holds may change.
 struct Form {
   std::string Name;
   std::string Caption;
@@ -35,7 +36,8 @@ struct Form {
   std::function<void()> Load;           // before the form is first seen
   std::function<void()> Unload;         // the form is being closed
 
-  /// What a control shows, in words for those who do not see it. Empty: there is nothing to tell.
+  /// What a control shows, in words for those who do not see it. Empty: there is nothing to tell,
+  /// now or ever. The words change only when the `Look` of some control of the form does.
   std::function<std::string(const Control& control)> Describe;
 
   bool Visible = false;  // `Toolkit::Show` and `Toolkit::Unload` write it

@@ -8,14 +8,19 @@
 #include "toolkit/form.h"
 
 /// Raw input as a host saw it. Presses and releases are those of the left button.
+///
+/// `CancelDrag` tells the toolkit of an end of a drag that only the host sees: Escape, another
+/// button pressed, a menu opened, the window hidden or minimised, the focus or the pointer lost, or
+/// a release that never came. It does no harm where there is no drag. The toolkit itself ends a
+/// drag at a menu command, at a message box and when the dragged image is hidden.
 struct InputEvent {
   enum class Kind {
     Press,
-    Move,
+    Move,  // one for each movement that the system reports: a host joins none together
     Release,
-    CancelDrag,   // Escape, another button, the pointer or the focus lost, a menu opened
+    CancelDrag,
     MenuCommand,  // of Command
-    Close,        // the user asks to close the window
+    Close,        // the user asks to close the window; it stays until the toolkit closes the form
   };
 
   Kind What = Kind::Move;
@@ -28,7 +33,8 @@ enum class MessageIcon { Stop = 16, Warning = 48, Information = 64 };
 
 /// A modal message with one OK button.
 struct MessageBox {
-  std::string Text;  // plain text; CR LF breaks the line
+  std::string Text;  // plain text; CR LF breaks the line. The box keeps these breaks if the screen
+                     // is wide enough, and wraps paragraphs, which are longer lines.
   MessageIcon Icon = MessageIcon::Information;
   std::string Title;
 };
@@ -42,6 +48,7 @@ struct Drag {
 };
 
 /// Whatever really draws and waits. It queues input and never calls a handler.
+/// It outlives the toolkit. A form that is too large for the screen is shown smaller as a whole.
 class Host {
  public:
   virtual ~Host() = default;
@@ -53,12 +60,17 @@ class Host {
   virtual double SecondsSinceMidnight() = 0;
 
   /// Sleeps until input has been queued or `until` has come; with no instant, until input alone.
+  /// It may return early. It must return at `until` even while an open menu or the like runs a loop
+  /// of its own: the timers go on meanwhile.
   virtual void WaitForInput(std::optional<Instant> until) = 0;
 
-  /// Shows a message box, and returns when the user has closed it.
+  /// Shows a message box, and returns when the user has closed it. Meanwhile the host drops all
+  /// other input.
   virtual void ShowMessageBox(const MessageBox& box) = 0;
 
-  /// Brings the screen up to date. `forms` holds the loaded forms, the frontmost first.
+  /// Brings the screen up to date. `forms` holds the loaded forms, the frontmost first; those that
+  /// are not `Visible` are not to be seen yet. Called after each event and before each wait, also
+  /// when nothing has changed: `ShownForm` tells what has.
   virtual void ShowForms(std::span<Form* const> forms, const Drag& drag) = 0;
 
   /// Leaves the process at once with exit code 0.

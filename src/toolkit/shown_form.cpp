@@ -1,5 +1,6 @@
 #include "toolkit/shown_form.h"
 
+#include <cassert>
 #include <utility>
 
 Look LookOf(const Control& control) {
@@ -16,8 +17,7 @@ std::optional<Rect> OutlineOf(const Form& form, const Drag& drag) {
 
 ShownForm::Changes ShownForm::Update(const Drag& drag) {
   Changes changes;
-  looks.resize(form.Controls.size());
-  words.resize(form.Controls.size());
+  assert(looks.size() == form.Controls.size());
   for (std::size_t place = 0; place < looks.size(); ++place) {
     Look look = LookOf(*form.Controls[place]);
     if (look == looks[place]) continue;

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "toolkit/host.h"
 
-/// What decides how a control looks.
+/// What decides how a control looks, apart from what never changes: its kind, its caption's font,
+/// room and colour, and its line.
 struct Look {
   bool Visible = false;
   Rect Place;
@@ -25,7 +27,7 @@ std::optional<Rect> OutlineOf(const Form& form, const Drag& drag);
 
 /// The outline's lines, each a pixel wide, the outermost first. They lie within its place. One is
 /// light and one dark, so that it shows on any ground.
-constexpr Color OutlineColors[]{White, Black};
+inline constexpr std::array OutlineColors{White, Black};
 
 /// What a host has shown of a form last, so that it shows anew only what has changed.
 class ShownForm {
@@ -51,7 +53,9 @@ class ShownForm {
     std::optional<Rect> OutlineBefore;
   };
 
-  explicit ShownForm(const Form& shownForm) : form(shownForm) {}
+  /// The form must outlive this, and has all of its controls already.
+  explicit ShownForm(const Form& shownForm)
+      : form(shownForm), looks(form.Controls.size()), words(form.Controls.size()) {}
 
   /// What has changed since the last call; from here on that counts as shown.
   Changes Update(const Drag& drag);

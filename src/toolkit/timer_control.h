@@ -9,7 +9,7 @@ using Instant = std::chrono::microseconds;
 /// A timer that ticks every `Interval` from the moment it is switched on.
 /// `Enabled` is for reading; `Toolkit::SetEnabled` writes it.
 struct TimerControl {
-  std::chrono::milliseconds Interval{0};
+  std::chrono::milliseconds Interval{0};  // above 0 before its form is shown or it is switched on
   bool Enabled = false;
   std::function<void()> Tick;
 

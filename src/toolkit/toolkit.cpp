@@ -1,6 +1,7 @@
 #include "toolkit/toolkit.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdlib>
 
 void Toolkit::Run() {
@@ -26,7 +27,10 @@ void Toolkit::MsgBox(const std::string& text, MessageIcon icon, const std::strin
 void Toolkit::Show(Form& form) {
   if (std::ranges::find(forms, &form) == forms.end()) {
     forms.insert(forms.begin(), &form);
-    for (TimerControl* timer : form.Timers) timer->NextDue = host.Now() + timer->Interval;
+    for (TimerControl* timer : form.Timers) {
+      assert(timer->Interval.count() > 0);
+      timer->NextDue = host.Now() + timer->Interval;
+    }
     if (form.Load) form.Load();
   }
   form.Visible = true;
@@ -46,6 +50,7 @@ void Toolkit::Unload(Form& form) {
 }
 
 void Toolkit::SetEnabled(TimerControl& timer, bool enabled) {
+  assert(!enabled || timer.Interval.count() > 0);
   if (enabled && !timer.Enabled) timer.NextDue = host.Now() + timer.Interval;
   timer.Enabled = enabled;
 }

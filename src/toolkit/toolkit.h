@@ -11,6 +11,7 @@
 /// host, and only `DoEvents` and `MsgBox` wait.
 class Toolkit {
  public:
+  /// The host must outlive the toolkit.
   explicit Toolkit(Host& host) : host(host) {}
   Toolkit(const Toolkit&) = delete;
   Toolkit& operator=(const Toolkit&) = delete;
@@ -26,6 +27,7 @@ class Toolkit {
   void MsgBox(const std::string& text, MessageIcon icon, const std::string& title);
 
   /// Shows a form in front of the others. The first time starts its timers and runs its `Load`.
+  /// The form must live until it is closed.
   void Show(Form& form);
 
   /// Brings a form that is shown to the front.

@@ -13,7 +13,7 @@ constexpr Color Green{0, 255, 0};
 constexpr Color Yellow{255, 255, 0};
 
 Control MakeLine(const char* name, int top, int height, const char* caption, Color color,
-                 const Font& font) {
+                 const CaptionFont& font) {
   Control label = MakeControl(ControlKind::Label, name, {0, top, SplashWidth, height});
   label.Caption = caption;
   label.ForeColor = color;
@@ -28,8 +28,8 @@ Control MakeBoard(const char* name, int left) {
 }
 
 void BuildControls(frmSplash& form) {
-  const Font titleFont{{"Arial", "Liberation Sans", "DejaVu Sans"}, 60};
-  const Font creditFont{{"Comic Sans MS", "Comic Neue", "DejaVu Sans"}, 15};
+  const CaptionFont titleFont{{"Arial", "Liberation Sans", "DejaVu Sans"}, 60};
+  const CaptionFont creditFont{{"Comic Sans MS", "Comic Neue", "DejaVu Sans"}, 15};
   form.lblTitle = MakeLine("lblTitle", 120, 1335, "Velmoran", White, titleFont);
   form.lblAuthors1 = MakeLine("lblAuthors1", 1560, 495, "User interface by the Velmoran project",
                               Green, creditFont);
