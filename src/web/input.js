@@ -17,7 +17,7 @@ function watchPointer() {
     if (!event.buttons || event.type == 'pointerdown') area = view.getBoundingClientRect();
     const scale = view.viewBox.baseVal.width / area.width;
     const isMove = event.type == 'pointermove';
-    const way = isMove ? event.getCoalescedEvents?.() ?? [] : [];
+    const way = isMove ? (event.getCoalescedEvents?.() ?? []) : [];
     for (const {clientX, clientY, buttons} of way.length ? way : [event]) {
       const x = Math.floor((clientX - area.left) * scale);
       const y = Math.floor((clientY - area.top) * scale);
@@ -54,8 +54,9 @@ document.addEventListener('keydown', event => {
     if (event.key == 'Escape') cancelDrag();
     if (!(event.ctrlKey || event.metaKey) || event.altKey || event.shiftKey) return;
     const letter = letterOf(event);
-    const shortcut = [...document.querySelectorAll('nav kbd')]
-        .find(kbd => kbd.textContent == 'Ctrl+' + letter);
+    const shortcut = [...document.querySelectorAll('nav kbd')].find(
+      kbd => kbd.textContent == 'Ctrl+' + letter,
+    );
     if (!shortcut) return;
     shortcut.parentElement?.click();
   }

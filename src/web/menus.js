@@ -12,9 +12,9 @@ const ownerOf = item =>
   /** @type {HTMLButtonElement | null} */ (menuOf(item)?.previousElementSibling);
 /** @param {Element | null} menu */
 const itemsOf = menu =>
-  [...menu?.querySelectorAll('button') ?? []].filter(item => menuOf(item) == menu);
+  [...(menu?.querySelectorAll('button') ?? [])].filter(item => menuOf(item) == menu);
 /** @param {EventTarget | null} target */
-const itemAt = target => target instanceof Element ? target.closest('button') : null;
+const itemAt = target => (target instanceof Element ? target.closest('button') : null);
 
 /**
  * Shows the menu of this entry and those that it lies in, and no others; without an entry none.
@@ -41,9 +41,11 @@ function leaveMenu(owner) {
 
 /** What a key does at an entry; undefined: nothing. @param {KeyboardEvent} event */
 function menuAction(event) {
-  const bar = itemsOf(document.querySelector('nav')), item = itemAt(event.target);
+  const bar = itemsOf(document.querySelector('nav')),
+    item = itemAt(event.target);
   if (!item || event.ctrlKey || event.metaKey || event.altKey) return;
-  const owner = ownerOf(item), items = itemsOf(menuOf(item));
+  const owner = ownerOf(item),
+    items = itemsOf(menuOf(item));
   /** @param {HTMLElement[]} all @param {HTMLElement} one @param {number} step */
   const beside = (all, one, step) => all[(all.indexOf(one) + step + all.length) % all.length];
   /** @param {number} step */
@@ -54,12 +56,16 @@ function menuAction(event) {
     else next.focus();
   };
   switch (event.key) {
-    case 'ArrowDown': return () => owner ? beside(items, item, 1).focus() : enterMenu(item, 0);
-    case 'ArrowUp': return () => owner ? beside(items, item, -1).focus() : enterMenu(item, -1);
-    case 'ArrowRight': return () => owner && isOwner(item) ? enterMenu(item, 0) : goAlong(1);
-    case 'ArrowLeft': return () => owner && ownerOf(owner) ? leaveMenu(owner) : goAlong(-1);
+    case 'ArrowDown':
+      return () => (owner ? beside(items, item, 1).focus() : enterMenu(item, 0));
+    case 'ArrowUp':
+      return () => (owner ? beside(items, item, -1).focus() : enterMenu(item, -1));
+    case 'ArrowRight':
+      return () => (owner && isOwner(item) ? enterMenu(item, 0) : goAlong(1));
+    case 'ArrowLeft':
+      return () => (owner && ownerOf(owner) ? leaveMenu(owner) : goAlong(-1));
     case 'Escape':
-      return () => owner ? leaveMenu(owner) : isOpen(item) ? openMenu(null) : view.focus();
+      return () => (owner ? leaveMenu(owner) : isOpen(item) ? openMenu(null) : view.focus());
   }
   const letter = letterOf(event);
   const named = items.find(other => other.querySelector('u')?.textContent?.toUpperCase() == letter);
@@ -76,7 +82,7 @@ function watchMenu() {
       view.focus();
       put(program => program.choose(Number(item.value)));
     } else if (!detail) {
-      enterMenu(item, 0);  // by a key
+      enterMenu(item, 0); // by a key
     } else {
       openMenu(menuOf(item) == bar && isOpen(item) ? null : item);
       item.focus();

@@ -25,8 +25,9 @@ function paragraphOf(text) {
 function fitLines() {
   const text = one('dialog section');
   text.className = 'unbroken';
-  const isTooWide = [...text.children].some(paragraph =>
-    paragraph.querySelector('br') && paragraph.scrollWidth > paragraph.clientWidth);
+  const isTooWide = [...text.children].some(
+    paragraph => paragraph.querySelector('br') && paragraph.scrollWidth > paragraph.clientWidth,
+  );
   text.className = isTooWide ? 'joined' : '';
 }
 addEventListener('resize', fitLines);
@@ -39,8 +40,11 @@ const page = {
   now: () => performance.now(),
   secondsSinceMidnight() {
     const now = new Date();
-    return (now.getHours() * 60 + now.getMinutes()) * 60 + now.getSeconds() +
-        now.getMilliseconds() / 1000;
+    return (
+      (now.getHours() * 60 + now.getMinutes()) * 60 +
+      now.getSeconds() +
+      now.getMilliseconds() / 1000
+    );
   },
   wait: suspending(milliseconds => {
     awaited = 'input';
@@ -61,9 +65,9 @@ const page = {
     main.innerHTML = textAt(markup);
     document.title = textAt(title);
     one('link[rel=icon]', HTMLLinkElement).href =
-        'data:image/svg+xml,' + encodeURIComponent(textAt(icon));
+      'data:image/svg+xml,' + encodeURIComponent(textAt(icon));
     view = one('#view', SVGSVGElement);
-    view.setAttribute('aria-label', document.title);  // without the blanks around it
+    view.setAttribute('aria-label', document.title); // without the blanks around it
     watchPointer();
     watchMenu();
   },
@@ -85,6 +89,10 @@ const page = {
     news.append(paragraphOf(textAt(words)));
     if (news.childElementCount > 20) news.firstElementChild?.remove();
   },
-  end() { throw Ended; },
-  fail(text) { throw new Error(textAt(text)); },
+  end() {
+    throw Ended;
+  },
+  fail(text) {
+    throw new Error(textAt(text));
+  },
 };

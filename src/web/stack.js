@@ -3,10 +3,10 @@
 
 /** Nothing before it runs and after it has ended. @type {Program | undefined} */
 let program;
-let stack = 0;  // where its stack lies while it waits
+let stack = 0; // where its stack lies while it waits
 /** What it waits for. @type {'' | 'input' | 'box'} */
 let awaited = '';
-let alarm = 0;  // the timer that ends a wait for input
+let alarm = 0; // the timer that ends a wait for input
 
 const Rewinding = 2;
 

@@ -4,7 +4,7 @@
 /** Why there is no game any more, in words for who wanted to play. @param {unknown} reason */
 function sentenceFor(reason) {
   if (reason == Ended) return 'The game is closed.';
-  if (!window.WebAssembly || !program && reason instanceof WebAssembly.CompileError) {
+  if (!window.WebAssembly || (!program && reason instanceof WebAssembly.CompileError)) {
     return 'This game needs WebAssembly, which a setting or a policy forbids here.';
   }
   return 'The game has found a fault in itself and stopped.';
@@ -25,7 +25,7 @@ function leave(reason) {
 
 async function start() {
   main.className = '';
-  if (!window.DecompressionStream) return;  // too old: what stands there says so
+  if (!window.DecompressionStream) return; // too old: what stands there says so
   // A page that was saved in the middle of a game bears what was shown.
   main.textContent = news.textContent = '';
   box.open = false;
@@ -40,7 +40,11 @@ async function start() {
 }
 
 window.velmoran = {
-  get program() { return program; },
-  get awaited() { return awaited; },
+  get program() {
+    return program;
+  },
+  get awaited() {
+    return awaited;
+  },
 };
 start().catch(leave);

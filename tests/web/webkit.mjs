@@ -6,8 +6,16 @@ import {existsSync, readdirSync} from 'node:fs';
 
 const Buttons = {left: 0, right: 2};
 const Keys = {
-  Tab: '\ue004', Enter: '\ue007', Control: '\ue009', Escape: '\ue00c', PageDown: '\ue00f',
-  ArrowLeft: '\ue012', ArrowUp: '\ue013', ArrowRight: '\ue014', ArrowDown: '\ue015', Meta: '\ue03d',
+  Tab: '\ue004',
+  Enter: '\ue007',
+  Control: '\ue009',
+  Escape: '\ue00c',
+  PageDown: '\ue00f',
+  ArrowLeft: '\ue012',
+  ArrowUp: '\ue013',
+  ArrowRight: '\ue014',
+  ArrowDown: '\ue015',
+  Meta: '\ue03d',
 };
 
 class Page {
@@ -17,8 +25,7 @@ class Page {
       call('POST', '/actions', {actions: [{type, id, actions}]});
     const point = (...actions) => act('pointer', 'mouse', ...actions);
     const button = (type, {button = 'left'} = {}) => ({type, button: Buttons[button]});
-    const way = (x, y) =>
-      ({type: 'pointerMove', duration: 30, x: Math.round(x), y: Math.round(y)});
+    const way = (x, y) => ({type: 'pointerMove', duration: 30, x: Math.round(x), y: Math.round(y)});
     const key = (type, name) => ({type, value: Keys[name] ?? name});
     this.mouse = {
       move: (x, y) => point(way(x, y)),
@@ -34,8 +41,12 @@ class Page {
     };
   }
 
-  goto(url) { return this.call('POST', '/url', {url}); }
-  reload() { return this.call('POST', '/refresh', {}); }
+  goto(url) {
+    return this.call('POST', '/url', {url});
+  }
+  reload() {
+    return this.call('POST', '/refresh', {});
+  }
   async evaluate(what, ...args) {
     const call = typeof what == 'string' ? what : `(${what})(...args)`;
     const script = `const args = [...arguments], done = args.pop();
@@ -44,7 +55,9 @@ class Page {
     if (error) throw new Error(error);
     return value;
   }
-  async screenshot() { return Buffer.from(await this.call('GET', '/screenshot'), 'base64'); }
+  async screenshot() {
+    return Buffer.from(await this.call('GET', '/screenshot'), 'base64');
+  }
   /// The window's own parts, such as its address bar, come on top.
   async setViewport({width, height}) {
     await this.call('POST', '/window/rect', {width, height});
@@ -52,26 +65,34 @@ class Page {
     await this.call('POST', '/window/rect', {width: 2 * width - w, height: 2 * height - h});
   }
   bringToFront() {}
-  close() { return this.goto('about:blank'); }
+  close() {
+    return this.goto('about:blank');
+  }
 }
 
 /// The browser lies beside its library, whose folder bears the machine's name and the version.
 function miniBrowser() {
-  return readdirSync('/usr/lib').flatMap(machine => ['webkit2gtk-4.1', 'webkitgtk-6.0'].map(
-      version => `/usr/lib/${machine}/${version}/MiniBrowser`)).find(existsSync);
+  return readdirSync('/usr/lib')
+    .flatMap(machine =>
+      ['webkit2gtk-4.1', 'webkitgtk-6.0'].map(
+        version => `/usr/lib/${machine}/${version}/MiniBrowser`,
+      ),
+    )
+    .find(existsSync);
 }
 
 export async function launchWebKit() {
-  const display = spawn('Xvfb', ['-displayfd', '1', '-screen', '0', '1600x1200x24'],
-                        {stdio: ['ignore', 'pipe', 'ignore']});
+  const display = spawn('Xvfb', ['-displayfd', '1', '-screen', '0', '1600x1200x24'], {
+    stdio: ['ignore', 'pipe', 'ignore'],
+  });
   const [number] = await once(display.stdout, 'data');
-  const port = 10000 + process.pid % 50000;
+  const port = 10000 + (process.pid % 50000);
   const driver = spawn('WebKitWebDriver', [`--port=${port}`], {
     stdio: 'ignore',
     env: {
       ...process.env,
       DISPLAY: ':' + String(number).trim(),
-      WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: '1',  // or it does not start as root
+      WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: '1', // or it does not start as root
     },
   });
   const ask = async (method, path, body) => {
