@@ -186,6 +186,15 @@ TEST(Pictures, TellSideAndRankWithoutColour) {
   EXPECT_FALSE(hasStar(desk.form.picBlueCheckerREF) || hasStar(desk.form.picGreenCheckerREF));
 }
 
+TEST(Splash, ShowsTheIconOfBothWindowsTwice) {
+  const Desk desk;
+  const Picture* icon = desk.form.window.Icon;
+  ASSERT_TRUE(icon);
+  EXPECT_EQ(desk.splash.window.Icon, icon);
+  EXPECT_EQ(desk.splash.imgCheckerBoard1.Picture, icon);
+  EXPECT_EQ(desk.splash.imgCheckerBoard2.Picture, icon);
+}
+
 TEST(Splash, GivesWayToTheBoardAndTheHelp) {
   Desk desk;
   desk.host.BoxTime = 4s;
