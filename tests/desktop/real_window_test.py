@@ -112,13 +112,14 @@ def scale_changes(game):
     """Box, board and drag follow the desktop's scale, each at its place. The window keeps its size,
     and stays where the user puts it."""
     title, _, *place = "Velmoran Game Controls", *game.window("Velmoran Game Controls")
+    window = game.window(" Velmoran")
     grey = game.colours(place[0] + 5, place[1] + 5)
     game.set_scale(1.5)
     until("a larger box", lambda: game.window(title)[3] == place[2] * 3 // 2)
     until("all of it", lambda: game.colours(place[0] + place[2] * 3 // 2 - 9, place[1]) == grey)
     game.measure()
     game.play_to("drag")
-    assert game.side == BOARD * 3 // 2
+    assert (game.side, game.window(" Velmoran")[:3]) == (BOARD * 3 // 2, window[:3])
     game.set_scale(1)
     until("the old size", lambda: game.measure() or game.side == BOARD)
     game.do(14)
@@ -127,7 +128,7 @@ def scale_changes(game):
     until("another place", lambda: game.measure() or game.left == game.width - 300)
     game.do("key ctrl+n")
     game.move(9, 13)
-    assert game.window(" Velmoran")[1:] == (game.width - 300, 50, BOARD, BOARD + 19)
+    assert game.window(" Velmoran")[1:] == (game.width - 300, 50, *window[3:])
 
 
 def rules(game):
