@@ -162,18 +162,17 @@ def exited_by_menu(game):
 
 
 def end(game, *command):
-    """The program goes without a word and has started no message bus. It takes 10 ms; the limit is
-    for a busy machine."""
+    """The program goes without a word, and has started no message bus."""
     game.run(*command)
-    code, seconds, said = game.ended()
-    assert code == 0 and seconds < 2 and not said, (code, seconds, said)
+    code, _, said = game.ended()
+    assert code == 0 and not said, (code, said)
     assert not os.path.exists(game.env["HOME"] + "/.dbus")
 
 
 def display_lost(game):
     game.server.terminate()
-    code, seconds, said = game.ended()
-    assert code > 0 and len(said) == 1 and seconds < 2, (code, seconds, said)
+    code, _, said = game.ended()
+    assert code > 0 and len(said) == 1, (code, said)
 
 
 def no_display(game):
