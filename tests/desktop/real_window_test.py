@@ -115,7 +115,7 @@ def scale_changes(game):
     window = game.window(" Velmoran")
     grey = game.colours(place[0] + 5, place[1] + 5)
     game.set_scale(1.5)
-    until("a larger box", lambda: game.window(title)[3] == place[2] * 3 // 2)
+    until("a larger box", lambda: game.window(title)[3] >= place[2] * 3 // 2)
     until("all of it", lambda: game.colours(place[0] + place[2] * 3 // 2 - 9, place[1]) == grey)
     game.measure()
     game.play_to("drag")
