@@ -9,10 +9,11 @@ import {fetched, folder, launch} from './browsers.mjs';
 
 const browserName = process.argv[2];
 const Start = 'gggg gggg gggg .... .... bbbb bbbb bbbb';
-const Moved = 'gggg gggg gggg .... b... .bbb bbbb bbbb';  // from 9 to 13
+const Moved = 'gggg gggg gggg .... b... .bbb bbbb bbbb'; // from 9 to 13
 const Desk = {width: 800, height: 700};
 const rest = milliseconds => new Promise(done => setTimeout(done, milliseconds));
-const file = `${folder}/velmoran.html`, html = readFileSync(file, 'utf8');
+const file = `${folder}/velmoran.html`,
+  html = readFileSync(file, 'utf8');
 const axe = readFileSync(fetched.resolve('axe-core/axe.min.js'), 'utf8');
 
 /// What runs in the page before its own scripts: questions of the tests, a place for what goes
@@ -24,18 +25,23 @@ function prepare(seconds) {
   window.board = () => {
     const rows = [];
     for (let row = 7; row >= 0; --row) {
-      rows.push([1, 2, 3, 4].map(column => {
-        const [{ariaLabel: label}] = all(`[aria-label$=" square ${4 * row + column}"]`);
-        const mark = label.startsWith('free') ? '.' : label[0];
-        return label.includes('king') ? mark.toUpperCase() : mark;
-      }).join(''));
+      rows.push(
+        [1, 2, 3, 4]
+          .map(column => {
+            const [{ariaLabel: label}] = all(`[aria-label$=" square ${4 * row + column}"]`);
+            const mark = label.startsWith('free') ? '.' : label[0];
+            return label.includes('king') ? mark.toUpperCase() : mark;
+          })
+          .join(''),
+      );
     }
     return rows.join(' ');
   };
   window.middleOf = square => {
     const {x, y, width, height} = all('#view')[0].getBoundingClientRect();
-    const row = Math.floor((square - 1) / 4), column = 2 * ((square - 1) % 4) + row % 2;
-    return [x + (column + .5) * width / 8, y + (7.5 - row) * height / 8];
+    const row = Math.floor((square - 1) / 4),
+      column = 2 * ((square - 1) % 4) + (row % 2);
+    return [x + ((column + 0.5) * width) / 8, y + ((7.5 - row) * height) / 8];
   };
   window.point = (type, square, options) => {
     const [clientX, clientY] = middleOf(square);
@@ -43,12 +49,20 @@ function prepare(seconds) {
     all('#view')[0].dispatchEvent(new PointerEvent(type, {...place, ...options}));
   };
   window.complaints = [];
-  const complain = what => { complaints.push(String(what)); };
+  const complain = what => {
+    complaints.push(String(what));
+  };
   addEventListener('securitypolicyviolation', event => complain(event.violatedDirective));
   addEventListener('error', event => complain(event.message));
   addEventListener('unhandledrejection', event => complain(event.reason));
   addEventListener('contextmenu', event => event.defaultPrevented || complain('a context menu'));
-  addEventListener('pointerdown', event => { window.pointer = event.pointerId; }, true);
+  addEventListener(
+    'pointerdown',
+    event => {
+      window.pointer = event.pointerId;
+    },
+    true,
+  );
   console.error = complain;
   if (seconds === null) return;
   window.clock = {now: 0, tick: null};
@@ -56,7 +70,7 @@ function prepare(seconds) {
   const {setTimeout, clearTimeout} = window;
   const Alarm = -1;
   window.setTimeout = (call, delay) => {
-    if (call.name != 'goOn') return setTimeout(call, delay);  // the driver's own
+    if (call.name != 'goOn') return setTimeout(call, delay); // the driver's own
     clock.tick = () => {
       clock.tick = null;
       clock.now += delay;
@@ -68,7 +82,9 @@ function prepare(seconds) {
     if (id == Alarm) clock.tick = null;
     else clearTimeout(id);
   };
-  window.settle = () => { while (clock.tick && velmoran.awaited != 'box') clock.tick(); };
+  window.settle = () => {
+    while (clock.tick && velmoran.awaited != 'box') clock.tick();
+  };
   // It is always past one o'clock, by fewer minutes than none: so that hours count, too.
   Date.prototype.getHours = () => 1;
   Date.prototype.getMinutes = () => Math.floor(seconds / 60) - 60;
@@ -94,8 +110,13 @@ class Hand {
     // Otherwise it pretends that every page is in front.
     if (browserName == 'chrome') await hand.page.emulateFocusedPage(false);
     const url = `/${bodies.size}`;
-    bodies.set(url, body.replace(
-        '<head>', `<head><script>(${prepare})(${seconds}); (${change || (() => {})})()</script>`));
+    bodies.set(
+      url,
+      body.replace(
+        '<head>',
+        `<head><script>(${prepare})(${seconds}); (${change || (() => {})})()</script>`,
+      ),
+    );
     await hand.page.goto(`http://127.0.0.1:${server.address().port}${url}`);
     return hand;
   }
@@ -123,40 +144,75 @@ class Hand {
 
   async has(condition) {
     // A page that is just being left has no answer.
-    for (let tries = 500; !await this.ask(condition).catch(() => false); --tries) {
+    for (let tries = 500; !(await this.ask(condition).catch(() => false)); --tries) {
       assert(tries, `never came: ${condition}`);
       await rest(20);
     }
   }
-  ask(...question) { return this.page.evaluate(...question); }
-  board() { return this.ask(() => board()); }
-  settle() { return this.ask(() => settle()); }
-  tick(times) { return this.ask(count => { while (count--) clock.tick(); }, times); }
-  outline() { return this.ask(() => all('#view > g:last-child > *').length); }
-  focus() { return this.ask(() => document.activeElement.firstChild.textContent || 'board'); }
+  ask(...question) {
+    return this.page.evaluate(...question);
+  }
+  board() {
+    return this.ask(() => board());
+  }
+  settle() {
+    return this.ask(() => settle());
+  }
+  tick(times) {
+    return this.ask(count => {
+      while (count--) clock.tick();
+    }, times);
+  }
+  outline() {
+    return this.ask(() => all('#view > g:last-child > *').length);
+  }
+  focus() {
+    return this.ask(() => document.activeElement.firstChild.textContent || 'board');
+  }
   /// Accessibility as axe-core judges it.
   async judge(what) {
     await this.ask(`(() => {${axe}})()`);
-    assert.deepEqual(await this.ask(async () => (await axe.run()).violations
-        .filter(({impact}) => impact == 'serious' || impact == 'critical')
-        .map(({help, nodes}) => [help, ...nodes.map(node => node.html)])), [], what);
+    assert.deepEqual(
+      await this.ask(async () =>
+        (await axe.run()).violations
+          .filter(({impact}) => impact == 'serious' || impact == 'critical')
+          .map(({help, nodes}) => [help, ...nodes.map(node => node.html)]),
+      ),
+      [],
+      what,
+    );
   }
-  title() { return this.ask(() => all('dialog[open] h1', title => title.innerText).join()); }
+  title() {
+    return this.ask(() => all('dialog[open] h1', title => title.innerText).join());
+  }
   /// The icons of a box: Stop, Warning, Information.
-  icons() { return this.ask(() => all('dialog g', icon => getComputedStyle(icon).display).join()); }
-  sentence() { return this.ask(() => all('main')[0].innerText.split('\n')[0]); }
+  icons() {
+    return this.ask(() => all('dialog g', icon => getComputedStyle(icon).display).join());
+  }
+  sentence() {
+    return this.ask(() => all('main')[0].innerText.split('\n')[0]);
+  }
 
   /// The middle of a square, or of the first element that a selector names and that has this text.
   at(what, text = '') {
-    return this.ask((what, text) => {
-      if (Number(what)) return middleOf(what);
-      const {x, y, width, height} = all(what).find(
-          element => element.innerText.startsWith(text)).getBoundingClientRect();
-      return [x + width / 2, y + height / 2];
-    }, what, text);
+    return this.ask(
+      (what, text) => {
+        if (Number(what)) return middleOf(what);
+        const {x, y, width, height} = all(what)
+          .find(element => element.innerText.startsWith(text))
+          .getBoundingClientRect();
+        return [x + width / 2, y + height / 2];
+      },
+      what,
+      text,
+    );
   }
-  async click(...place) { await this.page.mouse.click(...await this.at(...place)); }
-  async move(...place) { await this.page.mouse.move(...await this.at(...place)); }
+  async click(...place) {
+    await this.page.mouse.click(...(await this.at(...place)));
+  }
+  async move(...place) {
+    await this.page.mouse.move(...(await this.at(...place)));
+  }
   async press(square) {
     await this.move(square);
     await this.page.mouse.down();
@@ -200,8 +256,16 @@ async function replay(lines) {
 /// The recorded games: the second of the day that seeds one, then its turns and its end. The number
 /// of draws behind each turn is left out: one too many shows in the boards that follow.
 function recordedGames() {
-  return readFileSync('tests/data/games.txt', 'utf8').trim().split(/^game /m).slice(1)
-      .map(game => game.trim().split('\n').map(line => line.replace(/ \| \d+$/, '')));
+  return readFileSync('tests/data/games.txt', 'utf8')
+    .trim()
+    .split(/^game /m)
+    .slice(1)
+    .map(game =>
+      game
+        .trim()
+        .split('\n')
+        .map(line => line.replace(/ \| \d+$/, '')),
+    );
 }
 
 let browser;
@@ -226,7 +290,7 @@ check('a turn in real time from disk, at last hidden, and Exit', async () => {
   await hand.drag(9, 13);
   assert.equal(await hand.board(), Moved);
   // WebKit's driver does not hide a page.
-  const other = browserName != 'webkit' && await browser.newPage();
+  const other = browserName != 'webkit' && (await browser.newPage());
   if (other) {
     await other.bringToFront();
     await hand.has(() => document.hidden);
@@ -244,36 +308,54 @@ if (browserName != 'webkit') {
     const view = {width: 360, height: 640, deviceScaleFactor: 3, hasTouch: true, isMobile: true};
     const hand = await Hand.openBoard(browser, {view});
     const {touchscreen} = hand.page;
-    const finger = await touchscreen.touchStart(...await hand.at(9));
-    await finger.move(...await hand.at(13));
+    const finger = await touchscreen.touchStart(...(await hand.at(9)));
+    await finger.move(...(await hand.at(13)));
     assert.equal(await hand.outline(), 2);
     await finger.end();
     assert.equal(await hand.board(), Moved);
-    assert.deepEqual(await hand.ask(() => [
-      all('#view')[0].getBoundingClientRect().width, document.documentElement.scrollWidth,
-      scrollX, scrollY, devicePixelRatio, visualViewport.scale, getSelection().toString(),
-    ]), [360, 360, 0, 0, 3, 1, '']);
+    assert.deepEqual(
+      await hand.ask(() => [
+        all('#view')[0].getBoundingClientRect().width,
+        document.documentElement.scrollWidth,
+        scrollX,
+        scrollY,
+        devicePixelRatio,
+        visualViewport.scale,
+        getSelection().toString(),
+      ]),
+      [360, 360, 0, 0, 3, 1, ''],
+    );
     await hand.shortcut('a');
-    await touchscreen.tap(...await hand.at('dialog button'));
+    await touchscreen.tap(...(await hand.at('dialog button')));
     await hand.has(() => velmoran.awaited == 'input');
     const tapMenu = async (caption, open) => {
-      await touchscreen.tap(...await hand.at('nav button', caption));
+      await touchscreen.tap(...(await hand.at('nav button', caption)));
       await hand.has(`all('nav [aria-expanded=true]').length == ${open}`);
     };
     const isCoarse = await hand.ask(() => matchMedia('(pointer: coarse)').matches);
     assert(isCoarse || browserName != 'chrome');
-    for (const [width, height, board] of [[280, 400, 280], [640, 300, 256], [820, 1180, 820]]) {
+    for (const [width, height, board] of [
+      [280, 400, 280],
+      [640, 300, 256],
+      [820, 1180, 820],
+    ]) {
       await hand.page.setViewport({...view, width, height});
       await hand.has(`innerWidth == ${width}`);
       await tapMenu('Help', 1);
       await tapMenu('Official', 2);
-      const heights = await hand.ask(() => all('#view, nav button, [role=menu]', part => {
-        const {left, top, right, bottom} = part.getBoundingClientRect();
-        const isInside = left >= 0 && top >= 0 && right <= innerWidth && bottom < innerHeight + .1;
-        return isInside && bottom - top;
-      }).filter(height => height !== 0));
+      const heights = await hand.ask(() =>
+        all('#view, nav button, [role=menu]', part => {
+          const {left, top, right, bottom} = part.getBoundingClientRect();
+          const isInside =
+            left >= 0 && top >= 0 && right <= innerWidth && bottom < innerHeight + 0.1;
+          return isInside && bottom - top;
+        }).filter(height => height !== 0),
+      );
       assert.equal(heights.length, 11, `two menus, open on ${width} by ${height}`);
-      assert(heights.every(height => height && (height >= 44 || !isCoarse)), String(heights));
+      assert(
+        heights.every(height => height && (height >= 44 || !isCoarse)),
+        String(heights),
+      );
       if (isCoarse) assert.equal(Math.round(heights.at(-1)), board);
       await tapMenu('Help', 0);
     }
@@ -304,16 +386,34 @@ check('what the page says of itself, asks for and keeps', async () => {
   assert.match(html, /content="default-src 'none';(?!.*unsafe-inline)/);
   requests.length = 0;
   const hand = await Hand.openBoard(browser);
-  assert.deepEqual(await hand.ask(async () => {
-    const icon = new Image();
-    [icon.src] = all('[rel=apple-touch-icon]', link => link.href);
-    await icon.decode();
-    return [document.title, all('#view')[0].ariaLabel, icon.naturalWidth,
-      all('[rel=icon]', link => link.href.split(',')[0]), all('meta[name=description]').length,
-      document.cookie, localStorage.length, sessionStorage.length, await indexedDB.databases()];
-  }), ['Velmoran', 'Velmoran', 192, ['data:image/svg+xml'], 1, '', 0, 0, []]);
-  const readOut = () => hand.ask(() => all('#view')[0].getAttribute('aria-owns').trim().split(' ')
-      .map(id => document.getElementById(id).ariaLabel).filter(Boolean));
+  assert.deepEqual(
+    await hand.ask(async () => {
+      const icon = new Image();
+      [icon.src] = all('[rel=apple-touch-icon]', link => link.href);
+      await icon.decode();
+      return [
+        document.title,
+        all('#view')[0].ariaLabel,
+        icon.naturalWidth,
+        all('[rel=icon]', link => link.href.split(',')[0]),
+        all('meta[name=description]').length,
+        document.cookie,
+        localStorage.length,
+        sessionStorage.length,
+        await indexedDB.databases(),
+      ];
+    }),
+    ['Velmoran', 'Velmoran', 192, ['data:image/svg+xml'], 1, '', 0, 0, []],
+  );
+  const readOut = () =>
+    hand.ask(() =>
+      all('#view')[0]
+        .getAttribute('aria-owns')
+        .trim()
+        .split(' ')
+        .map(id => document.getElementById(id).ariaLabel)
+        .filter(Boolean),
+    );
   const before = await readOut();
   assert.deepEqual([before.length, before[8]], [32, 'blue man on square 9']);
   await hand.drag(9, 13);
@@ -331,18 +431,25 @@ check('every end of a drag', async () => {
   const ends = {
     escape: () => hand.keys('Escape'),
     // WebKit's driver would never let go of it.
-    'second button': () => browserName != 'webkit' ? page.mouse.down({button: 'right'}) :
-      hand.ask(() => point('pointermove', 13, {buttons: 3})),
-    'menu by the keys': () => hand.ask(() => {
-      const down = new KeyboardEvent('keydown', {key: 'ArrowDown', bubbles: true});
-      all('nav button')[0].dispatchEvent(down);
-    }),
-    'another window': () => hand.ask(() => { dispatchEvent(new Event('blur')); }),
-    'hidden page': () => hand.ask(() => {
-      Object.defineProperty(document, 'hidden', {value: true, configurable: true});
-      document.dispatchEvent(new Event('visibilitychange'));
-      delete document.hidden;
-    }),
+    'second button': () =>
+      browserName != 'webkit'
+        ? page.mouse.down({button: 'right'})
+        : hand.ask(() => point('pointermove', 13, {buttons: 3})),
+    'menu by the keys': () =>
+      hand.ask(() => {
+        const down = new KeyboardEvent('keydown', {key: 'ArrowDown', bubbles: true});
+        all('nav button')[0].dispatchEvent(down);
+      }),
+    'another window': () =>
+      hand.ask(() => {
+        dispatchEvent(new Event('blur'));
+      }),
+    'hidden page': () =>
+      hand.ask(() => {
+        Object.defineProperty(document, 'hidden', {value: true, configurable: true});
+        document.dispatchEvent(new Event('visibilitychange'));
+        delete document.hidden;
+      }),
     'lost pointer': () => hand.ask(() => point('lostpointercapture', 13)),
     'release that the page never saw': () => hand.ask(() => point('pointermove', 13)),
     box: () => hand.shortcut('a'),
@@ -383,7 +490,7 @@ check('New Game and a box in the middle of a turn', async () => {
   assert.equal(await hand.ask(() => clock.tick), null, 'timers are held');
   assert.equal(await hand.icons(), 'none,none,inline');
   await hand.judge('box');
-  await hand.page.mouse.click(...await hand.at(30));
+  await hand.page.mouse.click(...(await hand.at(30)));
   await hand.closeBox();
   assert.deepEqual([await hand.title(), await hand.focus()], ['', 'board']);
   await hand.shortcut('a');
@@ -411,12 +518,19 @@ check('New Game and a box in the middle of a turn', async () => {
 check('menus', async () => {
   const hand = await Hand.openBoard(browser);
   assert.deepEqual(await hand.ask(() => all('nav [tabindex="0"]').length), 1, 'stops of Tab');
-  await hand.ask(() => { all('nav button')[0].focus(); });
+  await hand.ask(() => {
+    all('nav button')[0].focus();
+  });
   for (const [keys, focus] of [
-    ['Enter', 'New Game'], ['Escape Escape', 'board'], ['Control', 'board'],
-    ['Tab ArrowDown', 'New Game'], ['ArrowDown ArrowDown', 'New Game'],
-    ['ArrowLeft ArrowUp', 'Official Rules of Velmoran'], ['ArrowRight', 'Part 1'],
-    ['ArrowLeft', 'Official Rules of Velmoran'], ['r', 'Part 1'],
+    ['Enter', 'New Game'],
+    ['Escape Escape', 'board'],
+    ['Control', 'board'],
+    ['Tab ArrowDown', 'New Game'],
+    ['ArrowDown ArrowDown', 'New Game'],
+    ['ArrowLeft ArrowUp', 'Official Rules of Velmoran'],
+    ['ArrowRight', 'Part 1'],
+    ['ArrowLeft', 'Official Rules of Velmoran'],
+    ['r', 'Part 1'],
     ['Escape', 'Official Rules of Velmoran'],
   ]) {
     await hand.keys(...keys.split(' '));
@@ -425,14 +539,26 @@ check('menus', async () => {
   await hand.keys('r', '3');
   assert.equal(await hand.title(), 'Rules of Velmoran (Part 3)');
   await hand.closeBox('Escape');
-  const shown = () => hand.ask(() =>
-      all('nav button').filter(item => item.offsetParent).map(item => item.firstChild.textContent));
+  const shown = () =>
+    hand.ask(() =>
+      all('nav button')
+        .filter(item => item.offsetParent)
+        .map(item => item.firstChild.textContent),
+    );
   await hand.click('nav button', 'File');
   assert.deepEqual(await shown(), ['File', 'New Game', 'Exit', 'Help']);
   await hand.move('nav button', 'Help');
   await hand.move('nav button', 'Official');
-  assert.deepEqual(await shown(), ['File', 'Help', 'Game Controls', 'About This Program',
-    'Official Rules of Velmoran', 'Part 1', 'Part 2', 'Part 3']);
+  assert.deepEqual(await shown(), [
+    'File',
+    'Help',
+    'Game Controls',
+    'About This Program',
+    'Official Rules of Velmoran',
+    'Part 1',
+    'Part 2',
+    'Part 3',
+  ]);
   await hand.judge('menu');
   if (browserName == 'chrome') {
     const tools = await hand.page.createCDPSession();
@@ -464,7 +590,8 @@ check('a box on a small screen', async () => {
     await hand.has(`innerWidth == ${width}`);
     await hand.ask(() => new Promise(requestAnimationFrame));
     const [rows, isJoined, text] = await hand.ask(() => {
-      const [text] = all('dialog section'), range = document.createRange();
+      const [text] = all('dialog section'),
+        range = document.createRange();
       range.selectNodeContents(text);
       const bottoms = [...range.getClientRects()].map(({bottom}) => Math.round(bottom));
       return [new Set(bottoms).size, !all('dialog br')[0].offsetParent, text.innerText];
@@ -474,12 +601,21 @@ check('a box on a small screen', async () => {
   }
   await hand.page.setViewport({width: 640, height: 300});
   await hand.has('innerHeight == 300');
-  assert.deepEqual(await hand.ask(() => {
-    const [view, title, text, button] = ['#view', 'dialog h1', 'dialog p', 'dialog button'].map(
-        part => all(part)[0].getBoundingClientRect());
-    return [title.top > 0, text.top >= title.bottom, button.bottom < innerHeight,
-      view.bottom < innerHeight + .1];
-  }), [true, true, true, true], 'title, text, button and board in sight');
+  assert.deepEqual(
+    await hand.ask(() => {
+      const [view, title, text, button] = ['#view', 'dialog h1', 'dialog p', 'dialog button'].map(
+        part => all(part)[0].getBoundingClientRect(),
+      );
+      return [
+        title.top > 0,
+        text.top >= title.bottom,
+        button.bottom < innerHeight,
+        view.bottom < innerHeight + 0.1,
+      ];
+    }),
+    [true, true, true, true],
+    'title, text, button and board in sight',
+  );
   await hand.keys('PageDown');
   await hand.has(() => all('dialog')[0].scrollTop > 0);
   await hand.closeBox();
@@ -515,7 +651,11 @@ check('what comes from elsewhere changes nothing', async () => {
 
 check('a page that cannot go on says so', async () => {
   assert(html.indexOf('id="program"') < html.indexOf('<main'), 'nothing is said while it comes');
-  const old = await Hand.open(browser, {change: () => { delete window.DecompressionStream; }});
+  const old = await Hand.open(browser, {
+    change: () => {
+      delete window.DecompressionStream;
+    },
+  });
   await old.has(() => all('main')[0].innerText);
   assert.match(await old.sentence(), /new enough/);
   await old.close();
