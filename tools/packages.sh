@@ -18,7 +18,7 @@ web_packages=(cmake ninja-build python3 wasi-libc binaryen llvm librsvg2-bin "cl
   "lld-$clang" "libc++-$clang-dev-wasm32" "libc++abi-$clang-dev-wasm32"
   "libclang-rt-$clang-dev-wasm32")
 browser_packages=(chromium firefox-esr webkit2gtk-driver xvfb)
-package_packages=("${test_packages[@]}" git debhelper lintian appstream)
+package_packages=("${test_packages[@]}" git build-essential debhelper lintian appstream)
 
 # Installs those of the given packages that are not there yet. Where there is no apt-get nothing is
 # installed, and CMake tells what is missing.
@@ -47,6 +47,7 @@ install_missing() {
 # Fetches into $build what tests/web/package.json names, if that has changed.
 install_npm_packages() {
   local lists=(tests/web/package.json tests/web/package-lock.json)
+  command -v npm >/dev/null || install_missing nodejs npm
   mkdir -p "$build"
   if ! cmp -s "${lists[1]}" "$build/package-lock.json" || [[ ! -d $build/node_modules ]]; then
     cp "${lists[@]}" "$build"
@@ -65,5 +66,5 @@ configure() {
   sources=$(sed -n 's/^CMAKE_HOME_DIRECTORY:INTERNAL=//p' "$cache" 2>/dev/null) || true
   [[ ! $sources || $sources -ef . ]] || fresh=(--fresh)
   ! command -v ninja >/dev/null || export CMAKE_GENERATOR=Ninja
-  cmake --preset "$1" -B "$build" "${fresh[@]}" "${@:2}" >/dev/null
+  cmake --no-warn-unused-cli --preset "$1" -B "$build" "${fresh[@]}" "${@:2}" >/dev/null
 }

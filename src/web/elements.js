@@ -5,9 +5,9 @@
  * The first element that a selector names: it is there.
  * @template {Element} [T=HTMLElement]
  * @param {string} selector
- * @param {new () => T} [kind]
+ * @param {new () => T} [_kind]
  */
-function one(selector, kind) {
+function one(selector, _kind) {
   return /** @type {T} */ (document.querySelector(selector));
 }
 

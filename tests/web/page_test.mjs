@@ -1,7 +1,7 @@
 // Plays on the page as a person does: page_test.mjs BROWSER, with the build folder as BUILD.
 import assert from 'node:assert/strict';
-import {readFileSync} from 'node:fs';
 import {once} from 'node:events';
+import {readFileSync} from 'node:fs';
 import {createServer} from 'node:http';
 import {after, before, test} from 'node:test';
 import {pathToFileURL} from 'node:url';
@@ -597,7 +597,7 @@ check('a box on a small screen', async () => {
       return [new Set(bottoms).size, !all('dialog br')[0].offsetParent, text.innerText];
     });
     assert(width == 700 ? rows == 11 : rows == 11 || isJoined, `${rows} lines, ${width} wide`);
-    assert.match(text, /\.  To move, \n?drag/, `blanks, ${width} wide`);
+    assert.match(text, /\. {2}To move, \n?drag/, `blanks, ${width} wide`);
   }
   await hand.page.setViewport({width: 640, height: 300});
   await hand.has('innerHeight == 300');
