@@ -256,19 +256,17 @@ TEST(MessageBox, ShowsTheIconOfItsKind) {
   for (const auto& [kind, icon] : {std::pair(MessageIcon::Stop, QMessageBox::Critical),
                                    {MessageIcon::Warning, QMessageBox::Warning},
                                    {MessageIcon::Information, QMessageBox::Information}}) {
-    Look({"", kind, ""}, [&](const QMessageBox& box, QLabel&) { EXPECT_EQ(box.icon(), icon); });
+    Look({"", kind, ""},
+         [wanted = icon](const QMessageBox& box, QLabel&) { EXPECT_EQ(box.icon(), wanted); });
   }
 }
 
 TEST(MessageBox, JoinsLinesThatAreTooWideForTheScreen) {
   const std::string wide(75, 'W');
-  QTimer::singleShot(0, [&] {
-    QWidget* dialog = QApplication::activeModalWidget();
-    EXPECT_EQ(dialog->findChild<QLabel*>("qt_msgbox_label")->text().toStdString(),
-              wide + " b c\n\nd e  f");
-    dialog->close();
+  const std::string text = wide + "\r\nb\r\nc\r\n\r\nd\r\ne  f";
+  Look({text, MessageIcon::Stop, ""}, [&](const QMessageBox&, const QLabel& label) {
+    EXPECT_EQ(label.text().toStdString(), wide + " b c\n\nd e  f");
   });
-  ShowModal({wide + "\r\nb\r\nc\r\n\r\nd\r\ne  f", MessageIcon::Stop, ""}, nullptr);
 }
 
 }  // namespace
