@@ -44,9 +44,6 @@ class Page {
   goto(url) {
     return this.call('POST', '/url', {url});
   }
-  reload() {
-    return this.call('POST', '/refresh', {});
-  }
   async evaluate(what, ...args) {
     const call = typeof what == 'string' ? what : `(${what})(...args)`;
     const script = `const args = [...arguments], done = args.pop();
