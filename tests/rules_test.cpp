@@ -27,7 +27,7 @@ struct Case {
 /// Cuts off the text up to the separator, all of it where there is none.
 std::string Cut(std::string& text, const std::string& separator) {
   const std::size_t end = std::min(text.find(separator), text.size());
-  const std::string head = text.substr(0, end);
+  std::string head = text.substr(0, end);
   text.erase(0, end + separator.size());
   return head;
 }
@@ -171,8 +171,8 @@ std::string DrawDirection(const Position& position, std::string question, bool i
   const DirectionSetCode set = DirectionSet(position, piece, isBlue);
   const Direction drawn = isJump ? RandomJumpDirection(random, position, piece, set, isBlue)
                                  : RandomStepDirection(random, position, piece, isBlue);
-  constexpr const char* Names[] = {"none", "up-left", "up-right", "down-left", "down-right"};
-  return Names[drawn] + (", " + std::to_string(random.DrawCount));
+  constexpr std::array Names{"none", "up-left", "up-right", "down-left", "down-right"};
+  return Names.at(static_cast<std::size_t>(drawn)) + (", " + std::to_string(random.DrawCount));
 }
 
 std::string Names(const MoveList& moves) {
@@ -228,15 +228,15 @@ std::string AnswerTo(const Position& board, std::string question) try {
 
 /// The first answer that is not the expected one is shown with its board, the others on a line.
 TEST(Rules, HoldOnSmallBoards) {
-  std::string told;
+  std::ostringstream told;
   int faults = 0;
   for (const auto& [rule, board, question, expected] : ReadCases()) {
     const std::string seen = AnswerTo(board, question);
     if (seen == expected || ++faults > 8) continue;
-    told += rule + (faults == 1 ? '\n' + DrawRows(board) : ": ") + question + ": expected " +
-            expected + ", is " + seen + '\n';
+    told << rule << (faults == 1 ? '\n' + DrawRows(board) : ": ") << question << ": expected "
+         << expected << ", is " << seen << '\n';
   }
-  if (faults > 0) ADD_FAILURE() << told << faults << " in all";
+  if (faults > 0) ADD_FAILURE() << told.str() << faults << " in all";
 }
 
 }  // namespace

@@ -125,7 +125,7 @@ struct Order {
 constexpr MoveMerits CrowningTrap{.IsSafeCrowning = true, .TrapsAtTo = true};
 constexpr MoveMerits OtherTrap{.TrapsAtFrom = true, .TrapsAtTo = true};
 
-const Order Orders[] = {
+const std::array Orders = std::to_array<Order>({
     {"a jump goes before any step", {.Score = 9}, {.Kind = MoveKindJump}, true, false},
     {"then the higher score", {.Score = 1, .Attacks = true}, {.Score = 2}, true, false},
     {"then a safe attack", {}, {.Attacks = true}, true, false},
@@ -143,7 +143,7 @@ const Order Orders[] = {
     {"safety counts in the score alone", {.DepthAtTo = 1}, {}, false, false},
     {"two attacks keep their order", {.Attacks = true}, {.Attacks = true}, false, false},
     {"two traps keep their order", {.TrapsAtTo = true}, {.TrapsAtTo = true}, false, false},
-};
+});
 
 TEST(Ranking, KeepsItsOrder) {
   for (const auto& [rule, first, second, isSecondBetter, isFirstBetter] : Orders) {
