@@ -130,8 +130,8 @@ class Game(Screen):
         # A square read while it is painted may look empty: so all of the answer is waited for.
         until(
             "the answer and its last blink",
-            lambda: ["*.", ".g"]
-            == [now + before for now, before in zip(self.board(), moved) if now != before],
+            lambda: [now + was for now, was in zip(self.board(), moved) if now != was]
+            in (["*.", ".g"], ["g.", ".g"]),
         )
         yield "last_blink"
 
