@@ -1,4 +1,4 @@
-// What it costs green to choose a move, and how many whole games a second the virtual host plays.
+// How long green takes to choose a move, and how many games per second the virtual host plays.
 
 #include <benchmark/benchmark.h>
 
@@ -13,7 +13,7 @@ struct Case {
   const char* Picture;
 };
 
-/// No position of twelve pieces has 48 moves: the last list is filled up with its first records.
+/// No position of twelve pieces has 48 moves, so the longest list repeats its first records.
 constexpr Case Cases[] = {
     {4, "..../Gb../b.../.G../BB../G.../G..b/bb.b"},
     {8, ".GG./..../b.../..../..bB/G.B./..../bGb."},

@@ -1,5 +1,5 @@
-# The toolchain of the page: the newest clang of Debian's, from 19 on, that has a C++ library for
-# WebAssembly. CMake learned the name of this system later than Debian 12 has it.
+# The toolchain of the page: Debian's newest clang, from 19 on, that has a C++ library for
+# WebAssembly. The system is Generic because the CMake of Debian 12 does not know WASI.
 file(GLOB libraries LIST_DIRECTORIES true
   /usr/lib/llvm-19/include/wasm32-wasi /usr/lib/llvm-[2-9][0-9]/include/wasm32-wasi)
 if(NOT libraries)
@@ -9,7 +9,7 @@ endif()
 list(SORT libraries ORDER DESCENDING)
 list(GET libraries 0 newest)
 cmake_path(SET CMAKE_CXX_COMPILER NORMALIZE ${newest}/../../bin/clang++)
-# Clang 22 calls this name of the target deprecated, but Debian's library still has it.
+# Clang 22 warns that this target name is deprecated, but Debian's library still uses it.
 set(CMAKE_CXX_COMPILER_TARGET wasm32-wasi)
 set(CMAKE_CXX_FLAGS_INIT -Wno-deprecated)
 set(CMAKE_SYSTEM_NAME Generic)

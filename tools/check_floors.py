@@ -1,8 +1,7 @@
 #!/usr/bin/env python3
-"""Checks that the sources keep to the floors of docs/architecture.md, whose list of folders is read
-here. A file includes files of its own folder and of folders below it, no files include each other
-in a circle, and only the desktop includes a Qt header. Prints what breaks a rule; exit code 1 if
-anything does."""
+"""Checks the includes of src/ against the floors that docs/architecture.md lists. A file may include
+files of its own folder and of lower folders; there are no circles; only desktop/ includes Qt
+headers. Prints what breaks these rules, and then the exit code is 1."""
 
 import graphlib
 import pathlib
@@ -14,7 +13,7 @@ SOURCES = ROOT / "src"
 
 
 def read_floors():
-    """By folder: its floor, counted from the ground."""
+    """The floor of each folder, counted from the ground."""
     text = (ROOT / "docs/architecture.md").read_text(encoding="utf-8")
     paragraph = re.search(r"^`toolkit/`\s*<.*?\n\n", text, re.M | re.S)[0]
     floors = enumerate(paragraph.split("<"))

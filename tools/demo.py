@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Plays one real game on a virtual screen by itself: demo.py PROGRAM FOLDER
 
-A simple hand plays blue with real pointer events: it takes a jump where there is one, and otherwise
-any step. Each turn is printed as it happens. Pictures of the splash, the opening, a capture, the
-last message and the end are left in the folder."""
+Blue is played with real pointer events: any jump, or else any step. Each turn is printed as it
+happens. Pictures of the splash, the opening, a capture, the last message and the end are saved in
+the folder."""
 
 import itertools
 import pathlib
@@ -22,14 +22,14 @@ DIAGONALS = list(itertools.product((1, -1), repeat=2))
 
 
 def neighbour(square, rows, columns):
-    """The square so many rows and columns away; 0 off the board."""
+    """The square that many rows and columns away. 0 if it is off the board."""
     row, place = divmod(square - 1, 4)
     row, column = row + rows, 2 * place + row % 2 + columns
     return row * 4 + column // 2 + 1 if 0 <= row < 8 and 0 <= column < 8 else 0
 
 
 def possible_moves(board):
-    """Jumps first, then steps. Those that only a king may make are among them, for any piece."""
+    """Jumps first, then steps. Every piece is listed with the moves of a king."""
     steps, jumps = [], []
     for square, (rows, columns) in itertools.product(range(1, 33), DIAGONALS):
         if board[square - 1] == "b":
@@ -51,7 +51,7 @@ class Demo(Game):
         return self.window("Game Over")
 
     def move_blue(self, board):
-        """Tries one move after the other: the game refuses what is against the rules."""
+        """Tries one move after the other: the game refuses those that are illegal."""
         for start, end in possible_moves(board) * 3:  # on a busy machine a drop may come late
             self.do(start, DOWN, end, UP, "sleep 0.1")
             if self.last_message() or self.board() != board:
@@ -60,7 +60,7 @@ class Demo(Game):
         raise AssertionError("blue has no move, and nothing says so")
 
     def wait_for_green(self, moved):
-        """Between two flashes a piece is plain for 0.4 seconds, and before the first for 0.7."""
+        """A piece is unlit for 0.4 seconds between two flashes, and for 0.7 before the first."""
         steady_since = time.monotonic()
         while time.monotonic() < steady_since + 1.2:
             board = self.board()

@@ -1,5 +1,5 @@
-// Writes the icon of the game, the board of its windows, below a folder: in every size that
-// desktops ask for, each painted anew and none scaled, and as SVG.
+// Writes the game's icon, a small board, to a folder: as SVG, and as PNG in all sizes that desktops
+// use. Each size is painted by itself, never scaled.
 
 #include <QDir>
 #include <QFile>
@@ -26,7 +26,7 @@ bool WriteSvg(const QString& path, const Picture& picture) {
          file.flush();
 }
 
-/// The place of the icon in a theme, where `kind` names the size. Makes its folder.
+/// The file of the icon in a theme. `kind` is the name of its size. Creates the folder.
 QString IconPath(const QDir& theme, const QString& kind, const QString& suffix) {
   const QString folder = kind + "/apps";
   theme.mkpath(folder);

@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
 """Measures what programs with a window cost: measure.py [--runs N] PROGRAM [PROGRAM ...]
 
-Each program is run N times in turn on an X server of its own. Printed are medians: milliseconds
-until the first pixels and until the picture has settled, processor time up to 3 s, PSS and USS in
-MiB once the program is at rest, context switches and processor time in 10 s of rest, and processor
-time for 1,000 mouse movements. A help box that is open by then is closed with Enter before the rest
-is measured."""
+Runs the programs in turn, N times each, on an X server of their own, and prints medians:
+milliseconds until the first pixels and until the picture has settled, processor time in the first
+3 s, PSS and USS at rest in MiB, context switches and processor time in 10 s of rest, and processor
+time for 1,000 mouse movements. Enter closes the help box before the rest is measured."""
 
 import argparse
 import pathlib
@@ -23,7 +22,7 @@ HEADS += ("switches in 10 s", "CPU in 10 s ms", "CPU for 1,000 moves ms")
 
 
 def watch_start(screen, started):
-    """Milliseconds until the first change of the picture and until its last one, within 2 s."""
+    """Milliseconds until the picture changes first and last, within 2 s."""
     before, changes = screen.memory[:], []
     while time.monotonic() < started + 2:
         now = screen.memory[:]
@@ -34,7 +33,7 @@ def watch_start(screen, started):
 
 
 def processor_ms(pid):
-    """Of all threads, from the scheduler's nanoseconds: /proc/PID/stat counts in steps of 10 ms."""
+    """The time of all threads in nanoseconds. /proc/PID/stat would count in steps of 10 ms."""
     times = pathlib.Path(f"/proc/{pid}/task").glob("*/schedstat")
     return sum(int(path.read_text().split()[0]) for path in times) / 1e6
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian package of the last commit, in build/package or the folder given, and checks it:
-# the same bytes from two folders, nothing for lintian to complain about, and a game that installs,
-# plays and goes without a trace. The machine itself stays as it is.
+# Makes the Debian package of the last commit, in build/package or in the given folder. Checks it:
+# two folders give the same bytes, lintian finds nothing, the game installs and plays, and a purge
+# leaves no file. Nothing is installed on the machine itself.
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 . tools/packages.sh
@@ -15,18 +15,18 @@ fail() {
   exit 1
 }
 
-# Does it quietly, and prints what was said if it fails.
+# Runs a command and prints its output only if it fails.
 quietly() {
   "$@" >"$scratch/log" 2>&1 || fail "$(tail -n 40 "$scratch/log")"
 }
 
-# Makes the package of the last commit in the folder given.
+# Makes the package of the last commit in a folder.
 make_package() {
   git clone --quiet . "$1/velmoran"
   (cd "$1/velmoran" && DEB_BUILD_OPTIONS=terse quietly dpkg-buildpackage -b -us -uc)
 }
 
-# The changelog of the package has the version. All else that names it has to follow.
+# The version comes from debian/changelog. The other files that name it must agree.
 check_version() {
   local version
   version=$(dpkg-parsechangelog --show-field Version)
@@ -36,8 +36,8 @@ check_version() {
   grep -m1 '^## ' CHANGELOG.md | grep -qF " $version," || fail "CHANGELOG.md is not of $version"
 }
 
-# Installs or removes in a root of its own. What the game depends on is not there: apt-get tells
-# whether it could be.
+# Runs dpkg in a root of its own, without the game's dependencies. Whether they can be installed is
+# for apt-get to say.
 in_scratch_root() {
   PATH=$PATH:/usr/sbin:/sbin quietly \
     dpkg --root="$scratch/root" --force-not-root --force-depends --log=/dev/null "$@"

@@ -1,5 +1,5 @@
 # shellcheck shell=bash disable=SC2034 # the lists are used where this file is sourced
-# What play, test, web and .ci/run share: which packages each needs, and how a build is configured.
+# Shared by play, test, web and .ci/run: the packages that each needs, and how to configure a build.
 
 build=${BUILD:-build}
 
@@ -9,8 +9,8 @@ play_packages=(g++ cmake ninja-build qt6-base-dev
 demo_packages=(python3 xvfb openbox xdotool x11-utils imagemagick)
 test_packages=("${play_packages[@]}" libgtest-dev
   python3 xvfb openbox xdotool wmctrl x11-utils libfaketime xsettingsd)
-# The page takes the newest clang from 19 on whose C++ library is there for WebAssembly: of those
-# that are installed, or else of those that Debian has.
+# The page needs clang 19 or later with a C++ library for WebAssembly. The newest installed one is
+# taken, or else the newest one that Debian has.
 clang=$({ dpkg-query --show 'libc++-*-dev-wasm32' || apt-cache pkgnames libc++-; } 2>/dev/null |
   sed -n 's/^libc++-\(19\|[2-9][0-9]\)-dev-wasm32.*/\1/p' | sort -n | tail -n 1) || true
 : "${clang:=19}"
@@ -20,12 +20,12 @@ web_packages=(cmake ninja-build python3 wasi-libc binaryen llvm librsvg2-bin "cl
 browser_packages=(chromium firefox-esr webkit2gtk-driver xvfb)
 package_packages=("${test_packages[@]}" git build-essential debhelper lintian appstream)
 
-# Installs those of the given packages that are not there yet. Where there is no apt-get nothing is
-# installed, and CMake tells what is missing.
+# Installs the given packages, unless they are installed. Without apt-get it installs nothing; CMake
+# then says what is missing.
 install_missing() {
   local installed package missing=() as_root=()
   { command -v apt-get && command -v dpkg-query; } >/dev/null || return 0
-  # dpkg-query fails where it knows one of the names not at all; what it prints still counts.
+  # dpkg-query fails if one of the names is unknown to it, but its output is still right.
   installed=$(dpkg-query --showformat='${db:Status-Status} ${Package}\n' --show "$@" 2>/dev/null) ||
     true
   for package; do
@@ -44,7 +44,7 @@ install_missing() {
   return 1
 }
 
-# Fetches into $build what tests/web/package.json names, if that has changed.
+# Installs the packages of tests/web/package.json in $build, if the list has changed.
 install_npm_packages() {
   local lists=(tests/web/package.json tests/web/package-lock.json)
   command -v npm >/dev/null || install_missing nodejs npm
@@ -55,8 +55,8 @@ install_npm_packages() {
   fi
 }
 
-# Configures $build by a preset of CMakePresets.json and further options of cmake. Where the sources
-# have been moved it begins anew.
+# Configures $build with a preset of CMakePresets.json and further options of cmake. If the sources
+# have been moved, it starts from scratch.
 configure() {
   local sources cache=$build/CMakeCache.txt fresh=()
   if ! mkdir -p "$build" 2>/dev/null || [[ ! -w $build ]]; then
