@@ -1,7 +1,7 @@
 """The built program on an X server of its own, with a window manager. What the player sees is read
 from the memory of the screen, what he does is done by xdotool, and nothing sleeps for a state."""
 
-import mmap, os, pathlib, re, signal, struct, subprocess, tempfile, time
+import mmap, os, pathlib, re, signal, struct, subprocess, sys, tempfile, time
 
 BOARD = 520
 BLACK, BLUE, GREEN = (0, 0, 0), (36, 1, 254), (36, 255, 2)
@@ -103,6 +103,18 @@ class Game(Screen):
         self.process = self.start(program, stderr=self.errors)
         self.script = self.stages()
 
+    def __enter__(self):
+        return self
+
+    def __exit__(self, failure, *_):
+        if failure:
+            print("Screenshot:", self.take_screenshot(f"{sys.argv[1]}.{os.getpid()}"))
+        self.server.kill()
+        self.server.wait()
+
+    def take_screenshot(self, path):
+        return pathlib.Path(path + ".xwd").write_bytes(self.memory) and path + ".xwd"
+
     def stages(self):
         """Plays from the start to the end of the computer's first turn, and tells each stage."""
         self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran", True))
@@ -125,9 +137,9 @@ class Game(Screen):
         moved = START[:9] + "." + START[10:13] + "b" + START[14:]
         until("the move", lambda: self.board() == moved)
         yield "pause"
-        self.blinking = until("a blink", lambda: self.board().find("*") + 1)
+        self.blinking = until("a flash", self.flashing)
         yield "blink"
-        # A square read while it is painted may look empty: so all of the answer is waited for.
+        # A square that is just being painted may look empty, so wait for the whole answer.
         until(
             "the answer and its last blink",
             lambda: [now + was for now, was in zip(self.board(), moved) if now != was]
@@ -161,6 +173,11 @@ class Game(Screen):
         disc = self.colours(*self.middle(square, 0, -26)).pop()
         return PIECES.get((ground, disc), "?")
 
+    def flashing(self):
+        """The square that is lit up now, or None. One point of each square tells, so it is quick."""
+        lit = (n for n in range(1, 33) if self.colours(*self.middle(n, -30, -30)) == {GREEN})
+        return next(lit, None)
+
     def board(self):
         return "".join(map(self.piece, range(1, 33)))
 
@@ -182,7 +199,7 @@ class Game(Screen):
         )
 
     def ended(self):
-        """Waits for the process to end: its exit code, the seconds it took and what it said."""
+        """Waits for the process to end. Returns its exit code, the seconds and the lines of errors."""
         start = time.monotonic()
         until("the end", lambda: self.process.poll() is not None)
         self.errors.seek(0)
