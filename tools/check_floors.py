@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks the includes of src/ against the floors that docs/architecture.md lists. A file may include
-files of its own folder and of lower folders; there are no circles; only desktop/ includes Qt
+"""Checks the includes of src/ against the floors that docs/architecture.md lists: a file includes
+files of its own folder and of lower folders, there are no circles, and only desktop/ includes Qt
 headers. Prints what breaks these rules, and then the exit code is 1."""
 
 import graphlib
