@@ -10,8 +10,7 @@
 #include "computer/judgement.h"
 #include "support/desk.h"
 
-// Holds the program against tests/data/rules.txt: rules, each with questions about a small board
-// and the answers that the rule gives.
+// Asks the game the questions of tests/data/rules.txt and compares the answers.
 
 namespace {
 
@@ -24,7 +23,7 @@ struct Case {
   std::string Expected;
 };
 
-/// Cuts off the text up to the separator, all of it where there is none.
+/// Removes the text up to the separator, or all of it if there is none, and returns it.
 std::string Cut(std::string& text, const std::string& separator) {
   const std::size_t end = std::min(text.find(separator), text.size());
   std::string head = text.substr(0, end);
@@ -32,7 +31,7 @@ std::string Cut(std::string& text, const std::string& separator) {
   return head;
 }
 
-/// Reads a picture of 8 rows and the rules to its right.
+/// Reads a board of 8 rows and the cases to its right.
 void ReadBoard(const std::vector<std::string>& rows, std::vector<Case>& cases) {
   std::string picture;
   std::string rule;
@@ -77,12 +76,12 @@ std::vector<int> SquaresOf(std::string drag) {
   return squares;
 }
 
-/// Hands out these random values; there are no others.
+/// Returns these random values; one draw more throws.
 Random RandomOf(const std::string& values) {
   Random random;
   random.Script = [in = std::make_shared<std::istringstream>(values)] {
     double value = 0;
-    if (!(*in >> value)) throw std::out_of_range("more random values are drawn");
+    if (!(*in >> value)) throw std::out_of_range("too many random values are drawn");
     return value;
   };
   return random;
@@ -90,23 +89,23 @@ Random RandomOf(const std::string& values) {
 
 /// " 10-19 takes 14 crowned"
 std::string Changes(const Position& before, const Position& after) {
-  std::string told;
+  std::string moved;
   std::string taken;
   for (int piece = 1; piece <= Pieces; ++piece) {
     for (const auto squares : {&Position::BlueSquare, &Position::GreenSquare}) {
       const int was = (before.*squares)[piece];
       const int is = (after.*squares)[piece];
       if (is == was) continue;
-      (is == 0 ? taken : told) +=
+      (is == 0 ? taken : moved) +=
           ' ' + std::to_string(was) + (is == 0 ? "" : '-' + std::to_string(is));
     }
   }
-  if (!taken.empty()) told += " takes" + taken;
+  if (!taken.empty()) moved += " takes" + taken;
   const bool isSameRank = before.BlueKing == after.BlueKing && before.GreenKing == after.GreenKing;
-  return told + (isSameRank ? "" : " crowned");
+  return moved + (isSameRank ? "" : " crowned");
 }
 
-/// What becomes of the last of some drags.
+/// The result of the last of some drags.
 std::string Drop(const Position& position, std::string drags) {
   Desk desk(position);
   std::vector<int> squares;
@@ -117,11 +116,11 @@ std::string Drop(const Position& position, std::string drags) {
   }
   const auto& boxes = desk.host.Boxes;
   if (desk.form.position.BlueToMove) return boxes.empty() ? "refused" : boxes.back().Title;
-  std::string told = Changes(position, desk.form.position);
+  std::string changes = Changes(position, desk.form.position);
   const std::string move =
       ' ' + std::to_string(squares.front()) + '-' + std::to_string(squares.back());
-  if (told.starts_with(move)) told.erase(0, move.size());
-  return told.empty() ? "moves" : told.substr(1);
+  if (changes.starts_with(move)) changes.erase(0, move.size());
+  return changes.empty() ? "moves" : changes.substr(1);
 }
 
 bool IsLit(const frmVelmoran& form) {
@@ -131,7 +130,7 @@ bool IsLit(const frmVelmoran& form) {
   });
 }
 
-/// What happens after a drag, by milliseconds, when every random value is the same.
+/// What happens after a drag if every random value is the same, with times in milliseconds.
 std::map<std::string, std::string> Follow(const Position& position, std::string question) {
   Desk desk(position);
   const frmVelmoran& form = desk.form;
@@ -198,7 +197,7 @@ std::string Shuffle(const Position& position, const std::string& values) {
   MoveList moves = ListGreenMoves(position);
   const std::string shuffled = Names(ShuffleMoveList(random, moves));
   EXPECT_EQ(moves.Count, 0);
-  EXPECT_EQ(moves.Items.size(), 1) << "an emptied list keeps a slot";
+  EXPECT_EQ(moves.Items.size(), 1) << "an empty list keeps one slot";
   return shuffled + ", " + std::to_string(random.DrawCount);
 }
 
@@ -226,17 +225,17 @@ std::string AnswerTo(const Position& board, std::string question) try {
   return fault.what();
 }
 
-/// The first answer that is not the expected one is shown with its board, the others on a line.
+/// Shows the first wrong answer with its board, and seven more on a line each.
 TEST(Rules, HoldOnSmallBoards) {
-  std::ostringstream told;
+  std::ostringstream report;
   int faults = 0;
   for (const auto& [rule, board, question, expected] : ReadCases()) {
     const std::string seen = AnswerTo(board, question);
     if (seen == expected || ++faults > 8) continue;
-    told << rule << (faults == 1 ? '\n' + DrawRows(board) : ": ") << question << ": expected "
-         << expected << ", is " << seen << '\n';
+    report << rule << (faults == 1 ? '\n' + DrawRows(board) : ": ") << question << ": expected "
+           << expected << ", is " << seen << '\n';
   }
-  if (faults > 0) ADD_FAILURE() << told.str() << faults << " in all";
+  if (faults > 0) ADD_FAILURE() << report.str() << faults << " wrong answers";
 }
 
 }  // namespace

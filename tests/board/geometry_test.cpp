@@ -6,7 +6,7 @@
 
 namespace {
 
-TEST(Geometry, IsThatOfRowsAndColumns) {
+TEST(Geometry, FollowsRowsAndColumns) {
   for (Square square = 1; square <= Squares; ++square) {
     Position position;
     position.BlueSquare[1] = square;

@@ -6,14 +6,14 @@
 
 #include "computer/ranking.h"
 
-/// What speaks for or against a move of green, by the words of tests/data/rules.txt.
+/// What green judges a move by, in the words of tests/data/rules.txt.
 constexpr std::array Merits{"stands",  "arrives", "exposes", "defends", "scores",
                             "attacks", "crowns",  "holds",   "traps"};
 using Judgement = std::array<int, Merits.size()>;
 
-inline void ReportError() { ADD_FAILURE() << "no error to report"; }
+inline void ReportError() { ADD_FAILURE() << "the game reports an error of its own"; }
 
-/// What green thinks of it.
+/// How the game judges a move; a value for each of the merits.
 inline Judgement Judge(const Position& position, const MoveRecord& move) {
   const auto& [piece, from, direction, kind, to] = move;
   const MoveMerits merits = JudgeMove(position, move, ReportError);

@@ -8,11 +8,11 @@
 
 namespace {
 
-// What green thinks of a move, told a second time by the moves that the rules allow before and
-// after it. Whoever changes a rule of movement in both learns here whether green still judges
+// Green's judgement a second time, from the moves that the rules allow before and after a move. If
+// you change a rule of movement in src/ and in support/rules, this shows whether green still judges
 // rightly.
 
-/// How many pieces blue can take by jumps that begin over the square; two for more.
+/// How many pieces blue can take by jumping the one on the square first: 2 means two or more.
 int Taken(const Position& position, int square) {
   std::size_t most = 0;
   for (const Move& move : BlueMoves(position)) {
@@ -25,8 +25,9 @@ void Put(Table<Square, Pieces>& squares, Square square) {
   *std::ranges::find(squares, Square{0}) = square;
 }
 
-/// Whether green takes some blue king on any square that it can step to, and the piece, on `to`,
-/// has a part in it. The king still blocks the square that it leaves, and so does the piece.
+/// Whether there is a blue king that green can take on each square that it can step to, and the
+/// piece, standing on `to`, can take it on one of them. King and piece still block the squares that
+/// they leave.
 bool Traps(const Position& now, int piece, Square to) {
   const Square from = now.GreenSquare[piece];
   const auto isTrapped = [&](Square king) {
@@ -59,9 +60,9 @@ bool Traps(const Position& now, int piece, Square to) {
   return false;
 }
 
-Judgement Tell(const Position& now, const MoveRecord& move) {
+Judgement Expected(const Position& now, const MoveRecord& move) {
   const auto& [piece, from, direction, kind, to] = move;
-  Position then = now;  // whatever the move takes still stands
+  Position then = now;  // with the piece that a jump takes still on the board
   then.GreenSquare[piece] = to;
   const int stands = Taken(now, from);
   const int arrives = Taken(then, to);
@@ -95,8 +96,8 @@ Position RandomBoard(std::mt19937& random, int pieces) {
   return Board(picture);
 }
 
-/// Shows the first board on which the two differ; the boards begin with two pieces.
-TEST(Judgement, IsThatOfTheMovesBeforeAndAfter) {
+/// Shows the first board on which the two differ. Small boards come first.
+TEST(Judgement, FollowsFromTheLegalMovesBeforeAndAfter) {
   std::mt19937 random;
   for (int board = 0; board < 4000; ++board) {
     const Position position = RandomBoard(random, 2 + board / 400);
@@ -104,10 +105,10 @@ TEST(Judgement, IsThatOfTheMovesBeforeAndAfter) {
     ASSERT_EQ(moves.Count, std::ssize(GreenHops(position))) << DrawRows(position);
     for (int k = 0; k < moves.Count; ++k) {
       const MoveRecord& move = moves.Items[static_cast<std::size_t>(k)];
-      const Judgement told = Tell(position, move);
+      const Judgement expected = Expected(position, move);
       const Judgement judged = Judge(position, move);
       for (std::size_t word = 0; word < Merits.size(); ++word) {
-        ASSERT_EQ(judged[word], told[word])
+        ASSERT_EQ(judged[word], expected[word])
             << Merits[word] << ' ' << move.FromSquare << '-' << move.ToSquare << '\n'
             << DrawRows(position);
       }
@@ -119,7 +120,7 @@ struct Order {
   const char* Rule;
   MoveMerits First, Second;
   bool IsSecondBetter;
-  bool IsFirstBetter;  // once they stand the other way round
+  bool IsFirstBetter;  // asked the other way round
 };
 
 constexpr MoveMerits CrowningTrap{.IsSafeCrowning = true, .TrapsAtTo = true};
@@ -130,22 +131,22 @@ const std::array Orders = std::to_array<Order>({
     {"then the higher score", {.Score = 1, .Attacks = true}, {.Score = 2}, true, false},
     {"then a safe attack", {}, {.Attacks = true}, true, false},
     {"before unsafe ones", {.DepthAtTo = 1, .Attacks = true}, {.Attacks = true}, true, false},
-    {"an unsafe attack is none", {}, {.DepthAtTo = 1, .Attacks = true}, false, false},
+    {"an unsafe attack does not count", {}, {.DepthAtTo = 1, .Attacks = true}, false, false},
     {"then a safe crowning", {}, {.IsSafeCrowning = true}, true, false},
     {"even before a trap", {.TrapsAtTo = true}, {.IsSafeCrowning = true}, true, false},
     {"attack, crowning: each is better", {.Attacks = true}, {.IsSafeCrowning = true}, true, true},
     {"attack, trap: each is better", {.Attacks = true}, {.TrapsAtTo = true}, true, true},
-    {"then a trap for a king", {}, {.TrapsAtTo = true}, true, false},
+    {"then a trap", {}, {.TrapsAtTo = true}, true, false},
     {"with a crowning too", {.IsSafeCrowning = true}, CrowningTrap, true, false},
-    {"who gives up a trap goes last", OtherTrap, {}, true, false},
+    {"a move that gives up a trap goes last", OtherTrap, {}, true, false},
     {"unless both do", {.TrapsAtFrom = true}, OtherTrap, true, false},
-    {"an unsafe trap is none", {}, {.DepthAtTo = 1, .TrapsAtTo = true}, false, false},
-    {"safety counts in the score alone", {.DepthAtTo = 1}, {}, false, false},
+    {"an unsafe trap does not count", {}, {.DepthAtTo = 1, .TrapsAtTo = true}, false, false},
+    {"safety itself counts only in the score", {.DepthAtTo = 1}, {}, false, false},
     {"two attacks keep their order", {.Attacks = true}, {.Attacks = true}, false, false},
     {"two traps keep their order", {.TrapsAtTo = true}, {.TrapsAtTo = true}, false, false},
 });
 
-TEST(Ranking, KeepsItsOrder) {
+TEST(Ranking, ComparesTwoMoves) {
   for (const auto& [rule, first, second, isSecondBetter, isFirstBetter] : Orders) {
     EXPECT_EQ(IsBetterMove(first, second), isSecondBetter) << rule;
     EXPECT_EQ(IsBetterMove(second, first), isFirstBetter) << rule;

@@ -8,16 +8,16 @@
 #include "support/desk.h"
 #include "support/rules.h"
 
-// Six whole games in tests/data/games.txt, recorded, which every host replays. They alone hold the
-// sequence of draws. A game is named after the second of the day that seeds it; a line is a turn:
-// the drag, the board after green's answer, and how many random values have been drawn up to then.
+// Every host replays the six recorded games of tests/data/games.txt. No other test checks the whole
+// sequence of random draws. A game has the number of the second of the day that seeds it. A line is
+// a turn: the drag, the board after green's answer, and the number of random values drawn so far.
 
 namespace {
 
 constexpr const char* File = VELMORAN_DATA "/games.txt";
 constexpr int Seconds[] = {3, 12, 23, 35, 95, 96};
 
-/// What the games must show between them. Where one has been lost, record games of other seconds.
+/// Each of these must occur in some game. If one does not, record games of other seconds.
 constexpr const char* Cases[] = {"Blue has been captured",
                                  "Green has been captured",
                                  "Blue cannot move",
@@ -35,7 +35,8 @@ void ReplayTurn(Desk& desk, const std::string& turn) {
   std::istringstream in(turn);
   const std::vector<int> drag{std::istream_iterator<int>(in), {}};
   ASSERT_FALSE(desk.form.position.GameOver) << "the game has ended before";
-  ASSERT_TRUE(std::ranges::count(BlueMoves(desk.form.position), drag)) << "no legal drag: " << turn;
+  ASSERT_TRUE(std::ranges::count(BlueMoves(desk.form.position), drag))
+      << "not a legal drag: " << turn;
   ASSERT_EQ(desk.PlayLegalTurn(drag), turn);
 }
 
@@ -66,9 +67,9 @@ TEST(WholeGames, AreReplayedAsRecorded) {
   }
   if (HasFailure()) return;
   ASSERT_TRUE(games == std::size(Seconds) && ends == games)
-      << games << " games and " << ends << " ends in " << File;
+      << games << " games and " << ends << " ends are in " << File;
   for (const char* shown : Cases) {
-    EXPECT_TRUE(std::regex_search(all, std::regex(shown))) << "no game shows this: " << shown;
+    EXPECT_TRUE(std::regex_search(all, std::regex(shown))) << "occurs in no game: " << shown;
   }
 }
 

@@ -8,8 +8,8 @@
 
 #include "soak/watcher.h"
 
-// Plays whole games with random hands, each watched from event to event. A game is its seed: the
-// one that fails is played again, and its last events are printed.
+// Plays whole games with a random hand and checks them after each event. A game depends only on its
+// seed: one that fails is played again, and its last events are printed.
 
 namespace {
 
@@ -17,16 +17,16 @@ using namespace std::chrono_literals;
 using Kind = InputEvent::Kind;
 using Seed = unsigned long long;
 
-constexpr int MostRounds = 80;  // kings may chase each other for ever
+constexpr int MostRounds = 80;  // kings can chase each other for ever
 
-/// Plays one game. The hand mostly keeps to the rules, and now and then does anything else that a
-/// hand can do, until the program ends.
+/// Plays one game until the program ends. The hand mostly makes legal moves, and sometimes does
+/// anything else that a user can do.
 class Hand {
  public:
   Hand(Watcher& watchedGame, Seed seed) : watcher(watchedGame), state(seed) {}
 
   void PlayGame() {
-    desk.host.Midnight = Roll(256);  // it seeds the computer's chance
+    desk.host.Midnight = Roll(256);  // it seeds the computer's random values
     desk.toolkit.Show(Roll(10) == 0 ? desk.splash.window : desk.form.window);
     for (int round = 0; round < MostRounds; ++round) {
       if (round == 1 && Roll(3) != 0) Deal();
@@ -36,7 +36,7 @@ class Hand {
   }
 
  private:
-  /// Something to do for the human, what comes of it, and now and then more in between.
+  /// Does something, waits until the desk is quiet, and sometimes disturbs it in between.
   void PlayRound() {
     desk.host.BoxTime = Any(std::vector<Instant>{0ms, 1ms, 150ms, 200ms, 500ms, 3s, 1h});
     for (int more = Roll(12); more > 9; --more) {
@@ -60,7 +60,7 @@ class Hand {
     what < 14 ? DragAnyhow() : DragByTheRules(move);
   }
 
-  /// Most games end before there are many kings, so some begin with them.
+  /// Replaces the position by one with kings: most games end before there are many.
   void Deal() {
     std::mt19937 generator(static_cast<unsigned>(Roll(65536)));
     const auto chance = [&](std::uint64_t percent) { return generator() % 100 < percent; };
@@ -84,11 +84,11 @@ class Hand {
     Follow(move);
     Send(Kind::Release, PointOn(move.back()));
     desk.DeliverInput();
-    Demand(HasSameBoard(position, expected), "a legal drag is refused or leads to another move");
-    Demand(position.GameOver || desk.form.tmrPause.Enabled, "green is not asked to move");
+    Demand(HasSameBoard(position, expected), "a legal drag is refused, or makes another move");
+    Demand(position.GameOver || desk.form.tmrPause.Enabled, "green's turn does not begin");
   }
 
-  /// A drag that would be right, but ends without a drop; its release comes late.
+  /// A legal drag that ends without a drop. Its release comes afterwards.
   void DragCutOff(const Move& move) {
     Follow(move);
     const int what = Roll(4);
@@ -97,14 +97,15 @@ class Hand {
     if (what == 2) OpenHelp();
     if (what == 3) Choose("mnuGame");
     desk.DeliverInput();
-    Demand(!desk.host.ShownDrag.Source, "a drag outlives what ends it");
+    Demand(!desk.host.ShownDrag.Source, "the drag is not cancelled");
     const Position before = desk.form.position;
     Send(Kind::Release, PointOn(move.back()));
     desk.DeliverInput();
-    Demand(HasSameBoard(desk.form.position, before), "a late release drops a piece");
+    Demand(HasSameBoard(desk.form.position, before),
+           "a release after the end of a drag drops a piece");
   }
 
-  /// From a piece by hops of one square or two, or from anywhere to anywhere.
+  /// Drags from a piece by hops of one or two squares, or from anywhere to anywhere.
   void DragAnyhow() {
     const int square = desk.form.position.BlueSquare[1 + Roll(Pieces)];
     Point at = square != 0 && Roll(4) != 0 ? PointOn(square) : PointAnywhere();
@@ -117,7 +118,7 @@ class Hand {
     if (Roll(8) != 0) Send(Kind::Release, square != 0 && Roll(6) == 0 ? PointOn(square) : at);
   }
 
-  /// While the computer moves, or over the splash.
+  /// Anything a user may do while the computer moves, or while the splash is shown.
   void Disturb() {
     const int what = Roll(100);
     if (what < 2) return Send(Kind::Close);
@@ -131,10 +132,10 @@ class Hand {
   void Leave() {
     Roll(2) == 0 ? Choose("mnuExit") : Send(Kind::Close);
     desk.DeliverInput();
-    throw Fault("the program outlives its end");
+    throw Fault("the program goes on after its end");
   }
 
-  /// Presses on the piece and passes its stops, the last one sometimes only by the release.
+  /// Presses on the piece and moves to each stop. Sometimes leaves the last one to the release.
   void Follow(const Move& move) {
     Send(Kind::Press, PointOn(move.front()));
     const std::size_t stops = move.size() - (Roll(3) == 0 ? 1 : 0);
@@ -163,7 +164,7 @@ class Hand {
     return {label.Left + Roll(label.Width), label.Top + Roll(label.Height)};
   }
 
-  /// On the window, or up to a cell beside it.
+  /// A point on the window, or up to a cell outside it.
   Point PointAnywhere() { return {Roll(10 * CellSide) - CellSide, Roll(10 * CellSide) - CellSide}; }
 
   template <typename T>
@@ -171,8 +172,8 @@ class Hand {
     return choices[static_cast<std::size_t>(Roll(static_cast<int>(choices.size())))];
   }
 
-  /// A whole number from 0 to `sides` - 1, by SplitMix64: quick to seed, every seed gives a
-  /// sequence of its own, and the hand takes nothing from the game's.
+  /// A whole number from 0 to `sides` - 1, by SplitMix64: it is quick to seed, and the game's own
+  /// random sequence stays untouched.
   int Roll(int sides) {
     Seed mixed = state += 0x9e3779b97f4a7c15;
     mixed = (mixed ^ (mixed >> 30)) * 0xbf58476d1ce4e5b9;
@@ -189,14 +190,14 @@ class Hand {
 
 volatile Seed seedUnderWay = 0;
 
-/// An assert of the game leaves no exception to catch: at least say where it was.
-void TellSeed(int signal) {
+/// A failed assert of the game throws no exception. Print at least the seed.
+void PrintSeed(int signal) {
   std::fprintf(stderr, "soak: seed %llu ends with signal %d\n", seedUnderWay, signal);
   std::_Exit(1);
 }
 
-/// The human's moves in the game of this seed; none if it fails. Each change goes to the log, and
-/// so does the failure.
+/// Plays the game of this seed. Returns the number of the human's moves; empty if the game fails.
+/// Logs each change and the failure.
 std::optional<int> Play(Seed seed, const decltype(Watcher::Log)& log) {
   seedUnderWay = seed;
   Desk desk;
@@ -214,7 +215,7 @@ std::optional<int> Play(Seed seed, const decltype(Watcher::Log)& log) {
 
 void Print(const std::string& line) { std::puts(line.c_str()); }
 
-/// Plays a game that fails once more, and prints what came last.
+/// Plays a game that fails again, and prints the last lines of its log.
 void PrintFailure(Seed seed) {
   std::deque<std::string> lines;
   Play(seed, [&](const std::string& line) {
@@ -227,7 +228,7 @@ void PrintFailure(Seed seed) {
 
 }  // namespace
 
-/// How many games, and the seed of the first; a single game is printed event by event.
+/// Takes the number of games and the seed of the first. A single game is printed event by event.
 int main(int count, char** arguments) {
   const Seed games = count > 1 ? std::strtoull(arguments[1], nullptr, 10) : 0;
   const Seed first = count > 2 ? std::strtoull(arguments[2], nullptr, 10) : 1;
@@ -235,8 +236,8 @@ int main(int count, char** arguments) {
     std::fputs("usage: soak GAMES [SEED]\n", stderr);
     return 2;
   }
-  std::signal(SIGABRT, TellSeed);
-  std::signal(SIGSEGV, TellSeed);
+  std::signal(SIGABRT, PrintSeed);
+  std::signal(SIGSEGV, PrintSeed);
   long long moves = 0;
   for (Seed seed = first; seed < first + games; ++seed) {
     const std::optional<int> played = Play(seed, games == 1 ? Print : decltype(Watcher::Log){});

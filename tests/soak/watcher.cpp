@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int MostEvents = 100'000;  // far above any turn: who gets there turns in a circle
+constexpr int MostEvents = 100'000;  // many more than any turn has
 
 bool HasPiece(const Table<Square, Pieces>& squares) {
   return std::ranges::any_of(squares, [](Square square) { return square != 0; });
@@ -20,7 +20,7 @@ bool HasJumpFrom(int square, const std::vector<Move>& moves) {
       moves, [&](const Move& move) { return IsJump(move) && move.front() == square; });
 }
 
-/// How a game must end that ends now; empty if it must not.
+/// The text that must announce the end of the game now. Empty if the game goes on.
 std::string EndOf(const Position& position) {
   if (!HasPiece(position.BlueSquare)) return "Blue has been captured!  YOU LOSE!!!";
   if (!HasPiece(position.GreenSquare)) return "Green has been captured!  YOU WIN!!!";
@@ -32,8 +32,8 @@ std::string EndOf(const Position& position) {
 
 }  // namespace
 
-void Demand(bool isTrue, const char* what) {
-  if (!isTrue) throw Fault(what);
+void Demand(bool isTrue, const char* fault) {
+  if (!isTrue) throw Fault(fault);
 }
 
 Watcher::Watcher(Desk& watchedDesk) : desk(watchedDesk), last(StartPosition()) {
@@ -53,13 +53,14 @@ void Watcher::Deal(const Position& position) {
 }
 
 void Watcher::CheckEvent() {
-  Demand(++events < MostEvents, "the turn has no end");
+  Demand(++events < MostEvents, "the turn does not end");
   if (!desk.form.window.Visible) return;
-  if (Log) Tell();
+  if (Log) LogPosition();
   CheckTables();
   CheckPictures();
   CheckBoard();
-  Demand(desk.form.position.GameOver == isAnnounced, "a game is over from its announcement on");
+  Demand(desk.form.position.GameOver == isAnnounced,
+         "GameOver is set without an announcement, or not set after it");
   CheckDrag();
   last = desk.form.position;
   wasHumansTurn = IsHumansTurn();
@@ -71,7 +72,7 @@ void Watcher::CheckTables() const {
   Table<int, Squares> pieces;
   for (const auto& table : {position.BlueSquare, position.GreenSquare}) {
     for (const Square square : table) {
-      Demand(0 <= square && square <= Squares, "a piece stands beside the board");
+      Demand(0 <= square && square <= Squares, "a piece stands off the board");
       Demand(square == 0 || ++pieces[square] == 1, "two pieces stand on one square");
     }
   }
@@ -82,14 +83,15 @@ void Watcher::CheckTables() const {
   }
 }
 
-/// Each piece is shown on its square, with a picture of its rank, and a captured one is hidden.
+/// Each piece is shown on its square with the picture of its rank. A captured one is hidden.
 void Watcher::CheckPictures() const {
   const frmVelmoran& form = desk.form;
   const auto checkPlace = [&](Square square, const Control& image) {
-    Demand(image.Visible == (square != 0), "a captured piece is shown, or another is not");
+    Demand(image.Visible == (square != 0), "a captured piece is shown, or another one is hidden");
     if (square == 0) return;
     const Control& label = form.lblSquare[square];
-    Demand(image.Left == label.Left && image.Top == label.Top, "a piece is shown elsewhere");
+    Demand(image.Left == label.Left && image.Top == label.Top,
+           "a piece is not shown on its square");
   };
   const Position& position = form.position;
   for (int piece = 1; piece <= Pieces; ++piece) {
@@ -105,7 +107,7 @@ void Watcher::CheckPictures() const {
     Demand(blue.Picture == (isBlueKing ? form.picBlueKingREF : form.picBlueCheckerREF).Picture &&
                (green.Picture == PlainGreenPicture(form, piece) ||
                 (mayBeLit && green.Picture == lit.Picture)),
-           "a piece shows another rank, or is lit though it does not blink");
+           "a piece has the picture of another rank, or is lit without a blink");
   }
 }
 
@@ -114,19 +116,19 @@ void Watcher::CheckBoard() {
   const Position& now = desk.form.position;
   const bool isTurnOver = now.BlueToMove != last.BlueToMove;
   if (now.NewGameRequested && !last.NewGameRequested) {
-    Demand(HasSameBoard(now, StartPosition()), "a new game begins from the start position");
+    Demand(HasSameBoard(now, StartPosition()), "a new game does not begin with the start position");
     Demand(!desk.form.tmrPause.Enabled && !desk.form.tmrBlink.Enabled,
            "New Game leaves a timer on");
     isAnnounced = false;
     chain = 0;
   } else if (HasSameBoard(now, last)) {
-    Demand(!isTurnOver, "a turn ends with a move");
+    Demand(!isTurnOver, "a turn ends without a move");
   } else if (last.BlueToMove && isTurnOver) {
     ++Moves;
     const auto isThis = [&](const Move& move) {
       return HasSameBoard(now, Crowned(After(last, move)));
     };
-    Demand(std::ranges::any_of(BlueMoves(last), isThis), "the human's move is against the rules");
+    Demand(std::ranges::any_of(BlueMoves(last), isThis), "the human's move is illegal");
     chain = 0;
   } else if (last.BlueToMove) {
     Demand(HasSameBoard(now, Crowned(last)) && !wasHumansTurn, "the board changes out of turn");
@@ -140,37 +142,41 @@ void Watcher::CheckGreenHop() {
   const std::vector<Move> hops = GreenHops(last);
   const auto isThis = [&](const Move& hop) { return HasSameBoard(now, After(last, hop)); };
   const auto hop = std::ranges::find_if(hops, isThis);
-  Demand(hop != hops.end(), "green's move is against the rules");
-  Demand(IsJump(*hop) || !HasJump(hops), "green takes where it can");
-  Demand(chain == 0 || (chain == hop->front() && IsJump(*hop)), "green goes on with its piece");
+  Demand(hop != hops.end(), "green's move is illegal");
+  Demand(IsJump(*hop) || !HasJump(hops), "green steps though it can jump");
+  Demand(chain == 0 || (chain == hop->front() && IsJump(*hop)),
+         "green goes on with another piece or with a step");
   chain = hop->back();
-  Demand(now.GreenSquare[desk.form.BlinkChecker] == chain, "another piece blinks than moves");
+  Demand(now.GreenSquare[desk.form.BlinkChecker] == chain,
+         "the piece that blinks is not the one that moves");
   const bool isLast = !IsJump(*hop) || !HasJumpFrom(chain, GreenHops(now));
-  Demand(isLast == now.BlueToMove, "green jumps on for as long as it can");
+  Demand(isLast == now.BlueToMove, "green stops a chain too early, or its turn goes on");
 }
 
 void Watcher::CheckDrag() const {
   const bool isPath = desk.form.position.JumpPath[1] != 0;
-  Demand(!isPath || IsHumansTurn(), "a path outlives the human's turn");
+  Demand(!isPath || IsHumansTurn(), "there is a path outside the human's turn");
   const Drag& drag = desk.host.ShownDrag;
   if (!drag.Source) return;
   Demand(IsHumansTurn() && drag.Source->Visible && drag.Source->Name == "imgBlueChecker",
-         "nobody may drag this");
+         "this may not be dragged now");
   const bool isNew = drag.Source != lastDrag.Source || drag.Start != lastDrag.Start;
-  Demand(!isNew || !isPath, "a drag inherits a path");
+  Demand(!isNew || !isPath, "a drag starts with a path");
 }
 
 void Watcher::CheckBox(const MessageBox& box) {
   if (Log) Log("             box " + box.Title + ": " + box.Text.substr(0, box.Text.find('\r')));
   const Position& position = desk.form.position;
-  Demand(!desk.host.ShownDrag.Source, "a message box leaves no drag");
+  Demand(!desk.host.ShownDrag.Source, "a drag goes on under a message box");
   if (box.Title == "Game Over") {
-    Demand(!std::exchange(isAnnounced, true), "the end of a game is announced once");
-    Demand(box.Text == EndOf(position) && box.Icon == MessageIcon::Stop, "an end that is none");
+    Demand(!std::exchange(isAnnounced, true), "the end of a game is announced twice");
+    Demand(box.Text == EndOf(position) && box.Icon == MessageIcon::Stop,
+           "this is not how the game ends now");
   } else if (box.Title == "Capture Required") {
-    Demand(IsHumansTurn() && HasJump(BlueMoves(position)), "no capture is required");
+    Demand(IsHumansTurn() && HasJump(BlueMoves(position)),
+           "a capture is demanded though none is possible");
   } else {
-    Demand(box.Icon == MessageIcon::Information, "nobody asked for this box");
+    Demand(box.Icon == MessageIcon::Information, "there is no reason for this message box");
   }
 }
 
@@ -179,22 +185,23 @@ void Watcher::CheckRest() {
   const auto isDragMode = [&](int mode) {
     return std::ranges::count(desk.form.imgBlueChecker, mode, &Control::DragMode) == Pieces;
   };
-  Demand(HasSameBoard(position, Crowned(position)), "whoever gets to the far row is crowned");
-  Demand(!desk.form.BlinkStarted, "a blink outlives its turn");
+  Demand(HasSameBoard(position, Crowned(position)), "a man on its far row is not crowned");
+  Demand(!desk.form.BlinkStarted, "BlinkStarted is still set after the turn");
   if (position.GameOver) {
-    Demand(isDragMode(0) || !HasPiece(position.BlueSquare), "no piece moves after the end");
+    Demand(isDragMode(0) || !HasPiece(position.BlueSquare), "a piece can be dragged after the end");
   } else {
-    Demand(position.BlueToMove && isDragMode(1) && EndOf(position).empty(), "the game is stuck");
+    Demand(position.BlueToMove && isDragMode(1) && EndOf(position).empty(),
+           "the game cannot go on");
   }
   events = 0;
   desk.host.Boxes.clear();
 }
 
-/// The position after an event that has changed it or moved a drag.
-void Watcher::Tell() const {
+/// Logs the position if it has changed, or if a drag has moved.
+void Watcher::LogPosition() const {
   if (desk.form.position == last && desk.host.ShownDrag.Pointer == lastDrag.Pointer) return;
-  std::ostringstream told;
-  told << std::setw(8) << desk.host.Now().count() / 1000 << " ms  ";
-  PrintTo(desk.form.position, &told);
-  Log(told.str());
+  std::ostringstream line;
+  line << std::setw(8) << desk.host.Now().count() / 1000 << " ms  ";
+  PrintTo(desk.form.position, &line);
+  Log(line.str());
 }

@@ -6,37 +6,36 @@
 #include "support/desk.h"
 #include "support/rules.h"
 
-/// The game has broken a rule.
+/// What is wrong, in words.
 struct Fault : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Throws a fault of these words unless it is true.
-void Demand(bool isTrue, const char* what);
+/// Throws `Fault(fault)` unless `isTrue`.
+void Demand(bool isTrue, const char* fault);
 
-/// Watches a desk from event to event, and throws a `Fault` at the first thing that is not as it
-/// must always be:
+/// Checks a desk after each event, and throws a `Fault` if one of these does not hold:
 /// - The tables are sound, and the pictures show what they say.
-/// - Blue moves by the rules, once in a turn; green too, takes where it can, and jumps on with the
-///   same piece for as long as it can. Nothing else changes the board but New Game.
+/// - Blue makes one legal move in a turn. Green moves by the rules, jumps if it can, and jumps on
+///   with the same piece as long as it can. Only moves and New Game change the board.
 /// - New Game sets up the start position and stops both timers.
-/// - A game ends at once when it must, with the right words, once, and never otherwise. Boxes come
-///   only where they are called for.
-/// - Only blue pieces are dragged, only in the human's turn, and no drag inherits a path.
-/// - At rest the human can move, or the game is over: nothing of a turn is left.
+/// - A game ends exactly when it must, and says so once, with the right text. Each message box has
+///   its reason.
+/// - Only blue pieces are dragged, and only in the human's turn. No drag starts with a path.
+/// - At rest the human can move, or the game is over.
 class Watcher {
  public:
   explicit Watcher(Desk& watchedDesk);
 
-  /// To be called when the desk is quiet: nothing of a turn may be left, and the game can go on.
+  /// Call this when the desk is quiet. Checks that the turn is over and that the game can go on.
   void CheckRest();
 
-  /// Puts other pieces on the board, in the human's turn.
+  /// Replaces the position, in the human's turn.
   void Deal(const Position& position);
 
   Desk& desk;
-  std::function<void(const std::string& line)> Log;  // is told every change; may be empty
-  int Moves = 0;                                     // of the human
+  std::function<void(const std::string& line)> Log;  // gets a line for every change; may be empty
+  int Moves = 0;                                     // made by the human
 
  private:
   bool IsHumansTurn() const;
@@ -47,12 +46,12 @@ class Watcher {
   void CheckGreenHop();
   void CheckDrag() const;
   void CheckBox(const MessageBox& box);
-  void Tell() const;
+  void LogPosition() const;
 
-  Position last;  // at the event before
+  Position last;  // after the event before
   Drag lastDrag;
   bool wasHumansTurn = false;
-  int chain = 0;             // the square of the green piece that has jumped in this turn
-  bool isAnnounced = false;  // the end of this game
+  int chain = 0;             // where the green piece stands that has moved in this turn; 0: none
+  bool isAnnounced = false;  // whether the end of this game is
   int events = 0;            // since the desk was last at rest
 };

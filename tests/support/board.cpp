@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The place of a square in a picture without blanks.
+/// The index of a square in a picture without blanks.
 std::size_t PlaceOf(int square) {
   return static_cast<std::size_t>((7 - (square - 1) / 4) * 4 + (square - 1) % 4);
 }
@@ -16,8 +16,8 @@ Position Board(std::string_view picture) {
   std::string marks(picture);
   std::erase(marks, ' ');
   if (marks.size() != Squares || marks.find_first_not_of(".bBgG") != marks.npos) {
-    throw std::invalid_argument(
-        "a board is 8 rows of 4 squares, each . b B g or G; this is none: " + std::string(picture));
+    throw std::invalid_argument("a board is 8 rows of 4 squares, each . b B g or G; this is not: " +
+                                std::string(picture));
   }
   Position position;
   position.BlueToMove = true;
@@ -28,7 +28,7 @@ Position Board(std::string_view picture) {
     if (mark == '.') continue;
     const bool isBlue = mark == 'b' || mark == 'B';
     int& piece = isBlue ? blue : green;
-    if (++piece > Pieces) throw std::invalid_argument("a side has 12 pieces");
+    if (++piece > Pieces) throw std::invalid_argument("a side has more than 12 pieces");
     (isBlue ? position.BlueSquare : position.GreenSquare)[piece] = static_cast<Square>(square);
     (isBlue ? position.BlueKing : position.GreenKing)[piece] = mark == 'B' || mark == 'G';
   }

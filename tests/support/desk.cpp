@@ -17,7 +17,7 @@ const MenuItem* FindItem(const std::vector<MenuItem>& items, std::string_view na
   return nullptr;
 }
 
-/// The legal moves of blue after which green cannot jump; all of them if there is none.
+/// The legal moves of blue after which green cannot jump; all legal moves if there are none such.
 std::vector<Move> CarefulMoves(const Position& position) {
   std::vector<Move> moves = BlueMoves(position);
   std::vector<Move> careful;
@@ -60,7 +60,7 @@ void PlacePosition(frmVelmoran& form, const Position& position) {
 }
 
 void Desk::Draws(std::vector<double> values) {
-  // The values behind the given ones name every direction in turn, so no retry goes on for ever.
+  // The values after the given ones yield each direction in turn, so that every retry ends.
   toolkit.random.Script = [values = std::move(values), next = std::size_t{0}]() mutable {
     constexpr std::array Others{0.1, 0.7, 0.3, 0.9};
     const std::size_t index = next++;
@@ -88,7 +88,7 @@ std::string Desk::PlayLegalTurn(const std::vector<int>& squares) {
   for (const int square : squares) drag += std::to_string(square) + ' ';
   if (!HasSameBoard(form.position, expected)) {
     throw std::logic_error(
-        "the drag " + drag + "is legal, and is refused or leads elsewhere\non       " +
+        "the drag " + drag + "is legal, but is refused or makes another move\non       " +
         ::Draw(before) + "\nleads to " + ::Draw(expected) + "\nnow      " + ::Draw(form.position));
   }
   RunUntilQuiet();
@@ -101,14 +101,14 @@ std::string Desk::PlayGame(int second) {
   OpenBoard();
   Random hand;
   hand.Randomize(second);
-  std::string told;
+  std::string game;
   for (int turn = 0; !form.position.GameOver; ++turn) {
-    if (turn == MostTurns) return told + "no end\n";
+    if (turn == MostTurns) return game + "no end\n";
     const auto moves = CarefulMoves(form.position);
     const int chosen = hand.Draw(static_cast<int>(moves.size()));
-    told += PlayLegalTurn(moves[static_cast<std::size_t>(chosen)]) + '\n';
+    game += PlayLegalTurn(moves[static_cast<std::size_t>(chosen)]) + '\n';
   }
-  return told + host.Boxes.back().Text + '\n';
+  return game + host.Boxes.back().Text + '\n';
 }
 
 void Desk::Pointer(InputEvent::Kind what, Point at) {
@@ -129,9 +129,9 @@ void Desk::RunUntilQuiet() {
   try {
     while (host.HasWork() || IsTimerOn()) toolkit.DoEvents();
   } catch (const Quiet&) {
-    // A turn that sleeps with nothing to wake it would have kept its timer in the handler.
+    // The handler of a turn that waits for ever has not returned.
     if (form.tmrPause.InHandler || form.tmrBlink.InHandler) {
-      throw std::logic_error("a handler sleeps with nothing to wake it");
+      throw std::logic_error("a handler waits for ever");
     }
   }
 }

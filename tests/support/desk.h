@@ -7,10 +7,10 @@
 #include "support/virtual_host.h"
 #include "ui/program.h"
 
-/// Plays on from this position: places the pieces and shows them.
+/// Replaces the position, and shows the pieces on their squares.
 void PlacePosition(frmVelmoran& form, const Position& position);
 
-/// The whole program on a virtual host, and a hand that plays on it.
+/// The whole program on a virtual host, and the input of a user.
 class Desk {
  public:
   Desk();
@@ -18,26 +18,26 @@ class Desk {
   /// Opens the main window on this position.
   explicit Desk(const Position& position);
 
-  /// Opens the main window without a splash. The board is ready, and `tmrPause` has had its tick.
+  /// Opens the main window without the splash, and lets `tmrPause` have its first tick.
   void OpenBoard();
 
-  /// Hands out these random values in turn, then values from all over the range.
+  /// Makes the game draw these random values, and then values from the whole range in turn.
   void Draws(std::vector<double> values);
 
-  /// One drag from the middle of the first square over those of the others, with one movement to
-  /// each, let go on the last.
+  /// Queues a drag: a press in the middle of the first square, a movement to the middle of each
+  /// square, and the release on the last one.
   void Drag(const std::vector<int>& squares);
 
   /// Makes one drag and lets the computer answer.
   void PlayTurn(const std::vector<int>& squares);
 
-  /// Plays one turn with a legal drag. Returns the drag, the board after green's answer and the
-  /// number of draws so far, on one line. Throws if the drag is refused or leads elsewhere.
+  /// Plays one turn with a legal drag. Returns one line: the drag, the board after green's answer
+  /// and the number of draws so far. Throws if the drag is refused or makes another move.
   std::string PlayLegalTurn(const std::vector<int>& squares);
 
-  /// Opens the board at so many seconds after midnight, which seeds the game, and plays. The hand
-  /// takes at random one of the legal drags after which green cannot jump, if there is one. Returns
-  /// a line for each turn, and then how the game ends: "no end" if it does not within 60 turns.
+  /// Plays a game with a board opened at this second after midnight, which seeds it. Takes a random
+  /// legal drag, if possible one after which green cannot jump. Returns a line for each turn, and
+  /// one for the end of the game: "no end" after 60 turns.
   std::string PlayGame(int second);
 
   void Press(int square) { Pointer(InputEvent::Kind::Press, Middle(square)); }
@@ -51,18 +51,18 @@ class Desk {
 
   void At(Instant when, std::function<void()> action) { host.At(when, std::move(action)); }
 
-  /// Books an action for so much later than now.
+  /// Books an action after a delay from now.
   void In(Instant delay, std::function<void()> action) {
     At(host.Now() + delay, std::move(action));
   }
 
-  /// Delivers the input that is queued now, and no tick that is not due.
+  /// Delivers events until no input is queued. The clock stands still.
   void DeliverInput();
 
-  /// Delivers events and ticks until nothing is left to come.
+  /// Delivers events and ticks until no timer is on and nothing is booked.
   void RunUntilQuiet();
 
-  /// The middle of a square.
+  /// The point in the middle of a square.
   Point Middle(int square) const;
 
   VirtualHost host;
@@ -70,7 +70,7 @@ class Desk {
   Toolkit& toolkit = program.toolkit;
   frmVelmoran& form = program.mainForm;
   frmSplash& splash = program.splash;
-  std::function<void()> AfterEvent;  // nested events included; also comes before each wait
+  std::function<void()> AfterEvent;  // also called after nested events and before each wait
 
  private:
   bool IsTimerOn() const;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// A row and a column step.
+/// One diagonal step.
 struct Way {
   int Rows, Columns;
 };
@@ -19,7 +19,7 @@ constexpr std::array<Way, 4> Ways{{{1, -1}, {1, 1}, {-1, -1}, {-1, 1}}};
 
 int RowOf(int square) { return (square - 1) / 4; }
 
-/// The square one way along; 0 off the board, and from 0.
+/// The square one step away; 0 off the board, and from 0.
 int Go(int square, Way way) {
   const int row = RowOf(square) + way.Rows;
   const int column = (square - 1) % 4 * 2 + RowOf(square) % 2 + way.Columns;
@@ -40,7 +40,8 @@ void AddSteps(const std::string& marks, int from, std::vector<Move>& moves) {
   }
 }
 
-/// Lengthens the move of a piece, which is in the hand, by each jump; a blue one then jumps on.
+/// Adds the move with each possible jump more; for blue also with all jumps after that. The piece
+/// itself is not among the marks.
 void AddJumps(const std::string& marks, char piece, const Move& move, std::vector<Move>& moves) {
   const bool isBlue = piece == 'b' || piece == 'B';
   const std::string prey = isBlue ? "gG" : "bB";
@@ -54,7 +55,7 @@ void AddJumps(const std::string& marks, char piece, const Move& move, std::vecto
     moves.push_back(longer);
     if (!isBlue) continue;
     std::string onward = marks;
-    onward[static_cast<std::size_t>(over)] = 'x';  // it still blocks, but is no prey again
+    onward[static_cast<std::size_t>(over)] = 'x';  // it still blocks, but cannot be jumped again
     AddJumps(onward, piece, longer, moves);
   }
 }

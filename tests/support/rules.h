@@ -4,29 +4,29 @@
 
 #include "board/position.h"
 
-// The rules of movement a second time, by rows and columns, for all that plays and watches. Of the
-// game itself they use the tables alone, so that the game can be held against them.
+// The rules of movement a second time, by rows and columns. They use nothing of the game but its
+// piece tables, so that tests can compare the game with them.
 
-/// The squares of a move from first to last: two for a step, one more for each jump.
+/// The squares of a move from first to last: two for a step or a jump, one more for each jump on.
 using Move = std::vector<int>;
 
-/// The square that a jump from one to the other crosses; 0 if there is no such jump.
+/// The square between two that a jump connects; 0 if none does.
 int Between(int from, int to);
 
 bool IsJump(const Move& move);
 
-/// All that blue may do: if there is a jump only jumps, each chain also stopped short. By piece,
-/// then by direction; recorded games tell their moves by the place in this list.
+/// All legal moves of blue, by piece, then by direction. If there is a jump, only jumps; each chain
+/// also in its shorter forms. The order is that in which `Desk::PlayGame` chooses at random.
 std::vector<Move> BlueMoves(const Position& position);
 
-/// All that green may begin with, steps beside first jumps.
+/// All steps and first jumps of green.
 std::vector<Move> GreenHops(const Position& position);
 
-/// The board after a move of either side, the jumped pieces gone. Nobody is crowned by it.
+/// The position after a move of either side, without the jumped pieces. Crowns no piece.
 Position After(Position position, const Move& move);
 
-/// The board with every man on its far row made a king.
+/// The position with every man on its far row crowned.
 Position Crowned(Position position);
 
-/// Whether the same pieces stand on the same squares; whose turn it is does not matter.
+/// Whether the same pieces stand on the same squares, with the same ranks.
 bool HasSameBoard(const Position& a, const Position& b);

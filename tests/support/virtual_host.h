@@ -8,14 +8,14 @@
 /// `End` has been called. The game on the desktop leaves its process there.
 struct ProgramEnded {};
 
-/// Nothing is left that could wake the program. Thrown from a wait that no handler waits in.
+/// Thrown from a wait that nothing can end.
 struct Quiet {};
 
-/// A host whose clock jumps to the next instant at which something happens. Actions are booked
-/// beforehand, so that they also come inside a wait or an open message box.
+/// A host whose clock jumps to the next instant at which something happens. Actions can be booked,
+/// so that they also run during a wait or while a message box is open.
 class VirtualHost : public Host {
  public:
-  /// A message box as the user saw it.
+  /// A message box and when it opened.
   struct ShownBox : MessageBox {
     Instant At{0};
   };
@@ -29,10 +29,10 @@ class VirtualHost : public Host {
   void ShowForms(std::span<Form* const> forms, const Drag& drag) override;
   [[noreturn]] void End() override { throw ProgramEnded{}; }
 
-  /// Books an action. Several of one instant come in the order of their booking.
+  /// Books an action. Those of the same instant run in the order of booking.
   void At(Instant when, std::function<void()> action) { booked.emplace(when, std::move(action)); }
 
-  /// Queues input. While a message box is open the windows take none.
+  /// Queues input, or drops it while a message box is open.
   void Put(const InputEvent& event);
 
   /// Whether input waits or an action is booked.
@@ -43,8 +43,8 @@ class VirtualHost : public Host {
   double Midnight = 0;  // the time of day at instant 0, in seconds: it seeds the games
 
   bool IsBoxOpen = false;
-  std::function<void()> OnShow;                  // the screen is brought up to date
-  std::function<void(const MessageBox&)> OnBox;  // a box opens
+  std::function<void()> OnShow;                  // called at each refresh of the screen
+  std::function<void(const MessageBox&)> OnBox;  // called when a box opens
   std::vector<Form*> Forms;                      // as last shown, the frontmost first
   Drag ShownDrag;
 

@@ -38,7 +38,7 @@ class AnyForm : public testing::Test {
   Form form;
 };
 
-/// A form with a control on each pixel: it tells which pixels a way leads over.
+/// A form with a control on each pixel, named by its place.
 struct PixelForm : Form {
   explicit PixelForm(int size) : pixels(std::size_t(size * size)) {
     Width = Height = size * Pixel;
@@ -54,7 +54,7 @@ struct PixelForm : Form {
   std::vector<Control> pixels;
 };
 
-TEST(Way, LeadsOverPixels) {
+TEST(Way, RoundsToPixels) {
   const PixelForm form(4);
   const auto way = [&](Point from, Point to) {
     std::string names;
@@ -65,12 +65,12 @@ TEST(Way, LeadsOverPixels) {
   EXPECT_EQ(way({14, 0}, {16, 45}), "0,0 0,1 1,2 1,3 ") << "14.7 is rounded to 14";
   EXPECT_EQ(way({45, 16}, {0, 14}), "3,1 2,1 1,1 0,0 ") << "15.3 is rounded to 16";
   EXPECT_EQ(way({30, 30}, {30, 30}), "2,2 ");
-  EXPECT_EQ(way({74, 30}, {14, 30}), "3,2 2,2 1,2 0,2 ") << "from one step outside";
+  EXPECT_EQ(way({74, 30}, {14, 30}), "3,2 2,2 1,2 0,2 ") << "starts one pixel outside";
   constexpr int Low = std::numeric_limits<int>::min(), High = std::numeric_limits<int>::max();
   EXPECT_EQ(way({Low, Low}, {High, High}), "0,0 1,1 2,2 3,3 ");
 }
 
-TEST_F(AnyForm, HearsOfEachPixelOfTheWay) {
+TEST_F(AnyForm, GetsEventsFromEachPixelOnTheWay) {
   const PixelForm pixels(40);
   const auto onForm = [](Point point) { return Point{point.X - 10 * Pixel, point.Y - 10 * Pixel}; };
   const auto areNeighbours = [](const Control* a, const Control* b) {
@@ -100,7 +100,7 @@ TEST_F(AnyForm, HearsOfEachPixelOfTheWay) {
   }
 }
 
-TEST(Buttons, BecomeInput) {
+TEST(Buttons, MakePressesReleasesAndCancelledDrags) {
   using enum InputEvent::Kind;
   using Input = std::vector<InputEvent::Kind>;
   ButtonWatch watch;
@@ -108,19 +108,20 @@ TEST(Buttons, BecomeInput) {
   EXPECT_EQ(see(0, true), Input{Move});
   EXPECT_EQ(see(1, false), Input{Press});
   EXPECT_EQ(see(1, true), Input{Move});
-  EXPECT_EQ(see(3, true), (Input{CancelDrag, Move})) << "as a browser tells of a second button";
-  EXPECT_EQ(see(1, false), Input{}) << "its release";
-  EXPECT_EQ(see(5, false), Input{CancelDrag}) << "as other hosts do";
+  EXPECT_EQ(see(3, true), (Input{CancelDrag, Move}))
+      << "a second button, reported with a movement, as browsers do";
+  EXPECT_EQ(see(1, false), Input{}) << "that button goes up";
+  EXPECT_EQ(see(5, false), Input{CancelDrag}) << "reported without a movement, as other hosts do";
   EXPECT_EQ(see(4, true), (Input{Move, Release}));
   EXPECT_EQ(see(0, false), Input{});
   EXPECT_EQ(see(1, false), Input{Press});
-  EXPECT_EQ(see(1, false), Input{Press}) << "its release was lost";
-  EXPECT_EQ(see(0, true), (Input{CancelDrag, Move})) << "that too";
+  EXPECT_EQ(see(1, false), Input{Press}) << "the release before was lost";
+  EXPECT_EQ(see(0, true), (Input{CancelDrag, Move})) << "its release was lost too";
   EXPECT_EQ(see(0, false), Input{});
 }
 
-/// Whoever follows the changes shows what the form says, and hears of nothing else.
-TEST_F(AnyForm, IsShownByItsChanges) {
+/// A host that applies the changes shows the form as it is. No change is superfluous.
+TEST_F(AnyForm, IsShownRightByItsChangesAlone) {
   form.Describe = [](const Control& control) { return control.Visible ? control.Caption : ""; };
   ShownForm shown(form);
   std::array<Look, 8> looks;

@@ -36,7 +36,7 @@ class ToolkitTest : public testing::Test {
     return ticks;
   }
 
-  /// Delivers the input, and tells what is dragged then.
+  /// Delivers an input event and returns what is then dragged.
   const Control* Send(InputEvent::Kind what, Point at = {}) {
     host.Put({.What = what, .Window = &form, .At = at});
     toolkit.DoEvents();
@@ -60,7 +60,7 @@ TEST_F(ToolkitTest, TimersWaitForABoxAndKeepTheirBeat) {
   host.At(1050ms, [=, this] {
     Choose([=, this] {
       showBox();
-      toolkit.SetEnabled(timer, false);  // forgets what came due
+      toolkit.SetEnabled(timer, false);  // this drops the tick that was due
       toolkit.SetEnabled(timer, true);
     });
   });
@@ -98,28 +98,28 @@ TEST_F(ToolkitTest, DragsStartFollowAndEnd) {
        {Point{-1, 0}, {0, -1}, {500, 0}, {0, 500}, {0, 0}, {250, 50}, {499, 499}}) {
     overs = 0;
     EXPECT_EQ(Send(Press, {50, 50}), &image);
-    EXPECT_EQ(overs, 1) << "at once";
+    EXPECT_EQ(overs, 1) << "over the image itself";
     EXPECT_EQ(Send(Move, at), &image);
     EXPECT_EQ(host.ShownDrag.Pointer, at);
     EXPECT_EQ(Send(Release, at), nullptr);
-    EXPECT_EQ(Send(Press, {250, 50}), nullptr) << "no image";
+    EXPECT_EQ(Send(Press, {250, 50}), nullptr) << "a label cannot be dragged";
   }
-  EXPECT_EQ(cancelled, 4) << "outside";
+  EXPECT_EQ(cancelled, 4) << "one for each release outside";
   Send(Press, {50, 50});
   EXPECT_EQ(Send(CancelDrag), nullptr);
   Send(Press, {50, 50});
-  Choose([&] { EXPECT_EQ(cancelled, 6) << "before the command"; });
+  Choose([&] { EXPECT_EQ(cancelled, 6) << "the drag is cancelled first"; });
   toolkit.DoEvents();
   Send(Press, {50, 50});
   toolkit.MsgBox("", MessageIcon::Stop, "");
   EXPECT_EQ(cancelled, 7);
-  toolkit.DoEvents();  // the tick that came due behind the box
+  toolkit.DoEvents();  // the tick that came due while the box was open
   EXPECT_EQ(Send(Press, {50, 50}), &image);
   image.Visible = false;
-  EXPECT_EQ(Send(Move, {60, 50}), nullptr) << "nothing is left to drag";
+  EXPECT_EQ(Send(Move, {60, 50}), nullptr) << "the image is hidden now";
 }
 
-TEST_F(ToolkitTest, ClicksArePressedAndReleasedOnOneControl) {
+TEST_F(ToolkitTest, AClickIsPressedAndReleasedOnTheSameControl) {
   const ControlEvents events{.Click = [this](int index) { ticks.push_back(index); }};
   label.Events = &events;
   form.Events = events;
@@ -138,7 +138,7 @@ TEST_F(ToolkitTest, ClicksArePressedAndReleasedOnOneControl) {
   EXPECT_EQ(ticks, (Ticks{7, 0}));
 }
 
-TEST_F(ToolkitTest, FormsComeToTheFrontAndGo) {
+TEST_F(ToolkitTest, FormsComeToTheFrontAndClose) {
   Form other;
   toolkit.Show(other);
   Choose([&] { toolkit.ZOrder(form); });
@@ -146,7 +146,7 @@ TEST_F(ToolkitTest, FormsComeToTheFrontAndGo) {
   EXPECT_EQ(host.Forms, (std::vector{&form, &other}));
   form.Unload = [this] { ticks.push_back(timer.Enabled); };
   host.Put({.What = Close, .Window = &form});
-  Choose([&] { ADD_FAILURE() << "of a window that has gone"; });
+  Choose([&] { ADD_FAILURE() << "a command of a closed window was run"; });
   toolkit.DoEvents();
   EXPECT_EQ(host.Queue.size(), 1) << "one event at a time";
   toolkit.DoEvents();

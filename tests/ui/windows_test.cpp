@@ -66,7 +66,7 @@ TEST(MainWindow, BluePiecesCanBeDraggedAndGreenOnesCannot) {
 }
 
 /// On this board blue and green piece of the same number never have the same rank.
-TEST(MainWindow, TellsColourAndRankOfThePieceOnEachSquare) {
+TEST(MainWindow, DescribesColourAndRankOfThePieceOnEachSquare) {
   Desk desk(Board("...B g... .G.. b... .... ..b. .... ...G"));
   const std::string marks = Marks(desk.form.position);
   const Form& window = desk.form.window;
@@ -79,7 +79,7 @@ TEST(MainWindow, TellsColourAndRankOfThePieceOnEachSquare) {
     ASSERT_EQ(window.Describe(desk.form.lblSquare[square]),
               words[marks[std::size_t(square)]] + " square " + std::to_string(square));
   }
-  EXPECT_EQ(window.Describe(desk.form.imgBlueChecker[1]), "") << "it is told by its square";
+  EXPECT_EQ(window.Describe(desk.form.imgBlueChecker[1]), "") << "its square describes it";
   EXPECT_EQ(window.Describe(desk.form.lblBackround), "");
 }
 
@@ -113,9 +113,9 @@ void CheckHelp(Desk& desk, const Position& before) {
   EXPECT_EQ(desk.host.Boxes.size(), 1);
   const auto& box = desk.host.Boxes.at(0);
   EXPECT_EQ(box.Icon, MessageIcon::Information);
-  EXPECT_FALSE(box.Text.ends_with('\n')) << "a line break at the end";
+  EXPECT_FALSE(box.Text.ends_with('\n')) << "the text ends with a line break";
   EXPECT_EQ(desk.form.position, before);
-  EXPECT_EQ(desk.toolkit.random.DrawCount, 0) << "drawn from the game's sequence";
+  EXPECT_EQ(desk.toolkit.random.DrawCount, 0) << "it draws from the game's sequence";
 }
 
 TEST(Menu, ReachesEachCommandOnce) {
@@ -171,7 +171,7 @@ TEST(MainWindow, ADragThatComesToNothingForgetsItsPath) {
   }
 }
 
-TEST(Pictures, TellSideAndRankWithoutColour) {
+TEST(Pictures, ShowSideAndRankWithoutColour) {
   Desk desk;
   const auto brightness = [](const Control& box) {  // of the disc, as the eye sees it
     const Color& color = box.Picture->Shapes[1].Fill;
