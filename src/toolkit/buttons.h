@@ -4,18 +4,18 @@
 
 #include "toolkit/host.h"
 
-/// Makes input of the buttons of the pointer, as a host sees them go down and up.
+/// Turns the states of the pointer's buttons, as a host sees them, into input events.
 class ButtonWatch {
  public:
-  /// What to queue, in order, now that these buttons are down: the sum of 1 for the left one and of
-  /// other powers of 2 for others. `isMove`: it was a movement that told of them, not a button.
+  /// The events to queue, in order. `buttons` is the bit mask of the buttons that are down: 1 is
+  /// the left one, 0 means none. `isMove`: a movement reported them, not a press or a release.
   std::vector<InputEvent::Kind> See(unsigned buttons, bool isMove) {
     using enum InputEvent::Kind;
     if (!isMove && buttons == held) held = 0;  // the release before this press was lost
     const unsigned down = buttons & ~held;
     const bool isLeftUp = held & ~buttons & 1;
     held = buttons;
-    // The release is lost too where the window was minimised or lost the pointer in mid-drag.
+    // The release is also lost if the window was minimised or lost the pointer during a drag.
     const bool isLost = isLeftUp && isMove && !held;
     std::vector<InputEvent::Kind> input;
     if (isLost || down > 1) input.push_back(CancelDrag);

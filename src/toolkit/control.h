@@ -9,8 +9,8 @@
 
 struct Control;
 
-/// What a control array answers to. An empty function ignores the event. `index` is the element's
-/// own, `source` the image that is dragged.
+/// The event handlers of a control array. An empty function ignores the event. `index` is the
+/// index of the element, `source` the dragged image.
 struct ControlEvents {
   std::function<void(int index)> Click{};
   std::function<void(int index)> MouseMove{};
@@ -19,7 +19,7 @@ struct ControlEvents {
 };
 
 struct CaptionFont {
-  std::vector<std::string> Families;  // the first that is installed is taken
+  std::vector<std::string> Families;  // the first installed one is used
   int Points = 0;
 };
 
@@ -30,16 +30,16 @@ enum class ControlKind {
   Border,      // a line along the edges of its rectangle, inside of it
 };
 
-/// One element of a window as plain data: whatever is written here is on the screen after the
-/// event.
+/// One element of a window as plain data. The screen shows a change after the current event.
+/// Pictures and events must outlive the control.
 struct Control {
   ControlKind Kind = ControlKind::Label;
   std::string Name;
-  int Index = 0;  // place in its control array, from 1; 0 for a control of its own
-  int Left = 0;   // twips
-  int Top = 0;    // twips
-  int Width = 0;
-  int Height = 0;
+  int Index = 0;   // in its control array, from 1; 0: not in an array
+  int Left = 0;    // twips
+  int Top = 0;     // twips
+  int Width = 0;   // twips
+  int Height = 0;  // twips
   bool Visible = true;
   int DragMode = 0;  // 1: a press of the left button on the image starts a drag
 
@@ -63,7 +63,7 @@ constexpr int CaptionRoom(const Control& control) {
   return control.CaptionWidth != 0 ? control.CaptionWidth : control.Width;
 }
 
-/// A visible control of this kind at this place, and nothing else set.
+/// A visible control of this kind at this place. All other members keep their defaults.
 inline Control MakeControl(ControlKind kind, const char* name, const Rect& place) {
   Control control;
   control.Kind = kind;

@@ -16,8 +16,8 @@ struct MenuItem {
   std::vector<MenuItem> Items{};
 };
 
-/// One window as plain data. Once it has been shown, the form, its controls and its menu keep their
-/// addresses and their number, and of what is seen only what a `Look` holds may change.
+/// One window as plain data. Once it has been shown, the form, its controls and its menu must keep
+/// their addresses and their number, and only what a `Look` holds may change on the screen.
 struct Form {
   std::string Name;
   std::string Caption;
@@ -36,8 +36,8 @@ struct Form {
   std::function<void()> Load;           // before the form is first seen
   std::function<void()> Unload;         // the form is being closed
 
-  /// What a control shows, in words for those who do not see it. Empty: there is nothing to tell,
-  /// now or ever. The words change only when the `Look` of some control of the form does.
+  /// The text of a control for assistive technology. Empty: the control never has a text. A text
+  /// changes only when the `Look` of some control of the form does.
   std::function<std::string(const Control& control)> Describe;
 
   bool Visible = false;  // `Toolkit::Show` and `Toolkit::Unload` write it

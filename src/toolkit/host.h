@@ -9,14 +9,14 @@
 
 /// Raw input as a host saw it. Presses and releases are those of the left button.
 ///
-/// `CancelDrag` tells the toolkit of an end of a drag that only the host sees: Escape, another
+/// A host sends `CancelDrag` when a drag ends for a reason that only the host sees: Escape, another
 /// button pressed, a menu opened, the window hidden or minimised, the focus or the pointer lost, or
-/// a release that never came. It does no harm where there is no drag. The toolkit itself ends a
-/// drag at a menu command, at a message box and when the dragged image is hidden.
+/// a release that never came. Without a drag it does nothing. The toolkit itself ends a drag at a
+/// menu command, at a message box and when the dragged image is hidden.
 struct InputEvent {
   enum class Kind {
     Press,
-    Move,  // one for each movement that the system reports: a host joins none together
+    Move,  // one for each movement that the system reports; a host merges none
     Release,
     CancelDrag,
     MenuCommand,  // of Command
@@ -47,8 +47,9 @@ struct Drag {
   Point Pointer;  // now
 };
 
-/// Whatever really draws and waits. It queues input and never calls a handler.
-/// It outlives the toolkit. A form that is too large for the screen is shown smaller as a whole.
+/// Draws and waits for the toolkit. It queues input and never calls a handler.
+/// It must outlive the toolkit. A form that is too large for the screen is shown smaller as a
+/// whole.
 class Host {
  public:
   virtual ~Host() = default;
@@ -59,7 +60,7 @@ class Host {
   /// The time of day, with a fraction: at least 0, below 86,400.
   virtual double SecondsSinceMidnight() = 0;
 
-  /// Sleeps until input has been queued or `until` has come; with no instant, until input alone.
+  /// Sleeps until input has been queued or `until` has come. Without `until`: until input comes.
   /// It may return early. It must return at `until` even while an open menu or the like runs a loop
   /// of its own: the timers go on meanwhile.
   virtual void WaitForInput(std::optional<Instant> until) = 0;
@@ -70,7 +71,7 @@ class Host {
 
   /// Brings the screen up to date. `forms` holds the loaded forms, the frontmost first; those that
   /// are not `Visible` are not to be seen yet. Called after each event and before each wait, also
-  /// when nothing has changed: `ShownForm` tells what has.
+  /// when nothing has changed: `ShownForm` finds the changes.
   virtual void ShowForms(std::span<Form* const> forms, const Drag& drag) = 0;
 
   /// Leaves the process at once with exit code 0.

@@ -54,7 +54,7 @@ std::vector<const Control*> ControlsAlong(const Form& form, Point from, Point to
 
 void Pointer::Handle(const InputEvent& event) {
   if (drag.Source && !drag.Source->Visible) CancelDrag();
-  // A button event may come from a place that no movement has led to: the way there counts.
+  // No movement may have been reported on the way to a button event. The way counts all the same.
   Follow(*event.Window, event.At);
   if (event.What == InputEvent::Kind::Press) Press(*event.Window, event.At);
   if (event.What == InputEvent::Kind::Release) Release(*event.Window, event.At);
@@ -67,7 +67,7 @@ void Pointer::CancelDrag() {
   if (dragWindow.DragCancelled) dragWindow.DragCancelled();
 }
 
-/// The control that the pointer leaves hears of the movement too: it may start on its last pixel.
+/// The control that the pointer leaves gets the event too: the line starts on its last pixel.
 void Pointer::Follow(Form& eventWindow, Point to) {
   const Point from = window == &eventWindow ? last : to;
   window = &eventWindow;

@@ -23,7 +23,7 @@ ShownForm::Changes ShownForm::Update(const Drag& drag) {
     if (look == looks[place]) continue;
     changes.Looks.push_back({place, std::exchange(looks[place], look), look});
   }
-  // Words tell what is seen: where nothing looks otherwise, they need not be put together.
+  // Texts change only with a look, so without a changed look there is none to compare.
   for (std::size_t place = 0; !changes.Looks.empty() && place < words.size(); ++place) {
     std::string now = form.Describe ? form.Describe(*form.Controls[place]) : "";
     if (now == words[place]) continue;

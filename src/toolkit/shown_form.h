@@ -7,8 +7,8 @@
 
 #include "toolkit/host.h"
 
-/// What decides how a control looks, apart from what never changes: its kind, its caption's font,
-/// room and colour, and its line.
+/// What can change in how a control looks. Its kind, the font, width and colour of its caption,
+/// and its line never change.
 struct Look {
   bool Visible = false;
   Rect Place;
@@ -21,27 +21,27 @@ struct Look {
 
 Look LookOf(const Control& control);
 
-/// Where the outline of the dragged image stands on the form: it keeps its distance from the
+/// The place of the outline of the dragged image on the form. It keeps its distance from the
 /// pointer. Empty while the form has no drag.
 std::optional<Rect> OutlineOf(const Form& form, const Drag& drag);
 
 /// The outline's lines, each a pixel wide, the outermost first. They lie within its place. One is
-/// light and one dark, so that it shows on any ground.
+/// light and one dark, so that the outline is visible on any background.
 inline constexpr std::array OutlineColors{White, Black};
 
-/// What a host has shown of a form last, so that it shows anew only what has changed.
+/// What a host showed of a form last, so that it repaints only what has changed.
 class ShownForm {
  public:
-  /// A control that looks otherwise than before. One never shown before was hidden.
+  /// A control whose look has changed. Before the first `Update` all count as hidden.
   struct ChangedLook {
-    std::size_t Place = 0;  // of the control in the form's list
+    std::size_t Place = 0;  // index of the control in `Form::Controls`
     Look Before;
     Look Now;
   };
 
-  /// A control that is described otherwise than before. `Before` is empty the first time.
+  /// A control whose text has changed. `Before` is empty the first time.
   struct ChangedWords {
-    std::size_t Place = 0;  // of the control in the form's list
+    std::size_t Place = 0;  // index of the control in `Form::Controls`
     std::string Before;
     std::string Now;
   };
@@ -53,11 +53,11 @@ class ShownForm {
     std::optional<Rect> OutlineBefore;
   };
 
-  /// The form must outlive this, and has all of its controls already.
+  /// The form must outlive this object and must have all of its controls already.
   explicit ShownForm(const Form& shownForm)
       : form(shownForm), looks(form.Controls.size()), words(form.Controls.size()) {}
 
-  /// What has changed since the last call; from here on that counts as shown.
+  /// What has changed since the last call. The changes count as shown from now on.
   Changes Update(const Drag& drag);
 
   /// The outline of the drag as it is shown now.

@@ -15,7 +15,7 @@ std::string ShapeMarkup(const PictureShape& shape) {
   const int height = Hundredths(shape.Corners[1].second) - top;
   switch (shape.Outline) {
     case PictureShape::Kind::Rectangle:
-      // Crisp, or the ground would shine through along the seams at most sizes.
+      // Without antialiasing, which shows the background along the seams at most sizes.
       return "<rect" + PlaceAttributes({left, top, width, height}) +
              Attribute("shape-rendering", "crispEdges") + fill;
     case PictureShape::Kind::Ellipse:

@@ -22,7 +22,7 @@ std::string PlaceAttributes(const Rect& place);
 /// The attribute viewBox, from 0,0.
 std::string ViewBox(int width, int height);
 
-/// A picture as an element with these attributes, which tell its place. It fills all of it.
+/// A picture as an element. `attributes` give its place, which it fills.
 std::string PictureMarkup(const Picture& picture, const std::string& attributes);
 
 /// A picture as a document of its own.

@@ -57,14 +57,14 @@ void Toolkit::SetEnabled(TimerControl& timer, bool enabled) {
 
 void Toolkit::End() {
   host.End();
-  std::abort();  // g++ does not believe a virtual function that it never returns
+  std::abort();  // g++ ignores [[noreturn]] of a virtual function
 }
 
 bool Toolkit::DeliverTick() {
   TimerControl* timer = NextTimer();
   const Instant now = host.Now();
   if (!timer || timer->NextDue > now) return false;
-  // What fell due several times is delivered once, and the next tick keeps the old beat.
+  // Missed ticks are delivered as one, and the next tick keeps the old rhythm.
   timer->NextDue += ((now - timer->NextDue) / timer->Interval + 1) * timer->Interval;
   timer->InHandler = true;
   timer->Tick();

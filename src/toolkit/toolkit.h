@@ -16,14 +16,14 @@ class Toolkit {
   Toolkit(const Toolkit&) = delete;
   Toolkit& operator=(const Toolkit&) = delete;
 
-  /// The main loop. It is left by `End` alone.
+  /// The main loop. Only `End` leaves it.
   [[noreturn]] void Run();
 
   /// Delivers one due tick or one waiting event, and sleeps first until there is one.
   void DoEvents();
 
-  /// Shows a modal message and returns when the user has closed it. Timers are held meanwhile, and
-  /// a drag under way is cancelled.
+  /// Shows a modal message and returns when the user has closed it. No timer ticks meanwhile,
+  /// and a drag under way is cancelled.
   void MsgBox(const std::string& text, MessageIcon icon, const std::string& title);
 
   /// Shows a form in front of the others. The first time starts its timers and runs its `Load`.
@@ -33,10 +33,10 @@ class Toolkit {
   /// Brings a form that is shown to the front.
   void ZOrder(Form& form);
 
-  /// Closes a form: runs its `Unload` and stops its timers. The last form takes the program along.
+  /// Closes a form: runs its `Unload` and stops its timers. Closing the last form ends the program.
   void Unload(Form& form);
 
-  /// Switches a timer. One that is on already does not start over; off forgets a due tick.
+  /// Switches a timer. One that is on already does not restart. Switching off drops a due tick.
   void SetEnabled(TimerControl& timer, bool enabled);
 
   /// Seconds since midnight, with a fraction.
