@@ -4,6 +4,6 @@
 
 #include "board/position.h"
 
-/// What a player who does not see the board is told of a square: "blue king on square 14", or
+/// The text of a square, 1 to 32, for assistive technology: "blue king on square 14", or
 /// "free square 14".
 std::string DescribeSquare(const Position& position, Square square);

@@ -107,8 +107,8 @@ void WireControls(frmVelmoran& form) {
       .DragDrop = [&form](int index,
                           const Control& source) { imgBlueChecker_DragDrop(form, index, source); },
   };
-  // The next press may come straight from outside the window, past every control that would clear
-  // the path.
+  // The pointer may come from outside the window straight to the next press. Then no control on
+  // the way clears the path.
   form.window.DragCancelled = [&form] { ClearJumpPath(form); };
 }
 

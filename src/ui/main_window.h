@@ -2,6 +2,6 @@
 
 #include "game/main_form.h"
 
-/// Fills in the form as it stands before any of its code has run: controls, pictures, timers and
-/// menu, with every event wired to its procedure.
+/// Fills in the new form: controls, pictures, timers and menu, each event with its procedure. Call
+/// it once, before the form is shown.
 void BuildMainWindow(frmVelmoran& form);

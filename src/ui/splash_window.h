@@ -2,7 +2,8 @@
 
 #include "game/main_form.h"
 
-/// The window of the first 2500 milliseconds. It takes no input.
+/// The window of the first 2500 milliseconds. It ignores input. The toolkit and the main form must
+/// outlive it.
 struct frmSplash {
   frmSplash(Toolkit& programToolkit, frmVelmoran& mainForm)
       : toolkit(programToolkit), main(mainForm) {}
@@ -10,7 +11,7 @@ struct frmSplash {
   frmSplash& operator=(const frmSplash&) = delete;
 
   Toolkit& toolkit;
-  frmVelmoran& main;  // is shown when the splash goes
+  frmVelmoran& main;  // shown when the splash closes
   Form window;
 
   Control lblTitle;
@@ -22,7 +23,7 @@ struct frmSplash {
   TimerControl tmrTimer;
 };
 
-/// Fills in the form as it stands before any of its code has run.
+/// Fills in the new form. Call it once, before the form is shown.
 void BuildSplashWindow(frmSplash& form);
 
 /// The load event of the splash.
