@@ -6,7 +6,7 @@
 
 namespace {
 
-/// One described control. Its name is asked for anew each time, so it is always true.
+/// One described control. Its name is computed at each request, so it is never out of date.
 class ControlAccessible : public QAccessibleInterface {
  public:
   ControlAccessible(FormView& formView, const Control& describedControl)
@@ -48,7 +48,7 @@ class FormAccessible : public QAccessibleWidget {
     if (!formView.ViewedForm().Describe) return;
     for (const Control* control : formView.ViewedForm().Controls) {
       if (formView.ViewedForm().Describe(*control).empty()) continue;
-      // From here on it belongs to the registry.
+      // The registry owns it from here on.
       auto* child = new ControlAccessible(formView, *control);
       children.push_back(QAccessible::registerAccessibleInterface(child));  // NOLINT: no leak
       described.push_back(control);
@@ -69,7 +69,7 @@ class FormAccessible : public QAccessibleWidget {
     }
     return -1;
   }
-  /// The child of a control; empty where there is none.
+  /// The child of a control; null if it has none.
   QAccessibleInterface* childOf(const Control& control) const {
     const auto place = std::ranges::find(described, &control);
     return child(static_cast<int>(place - described.begin()));
@@ -100,7 +100,7 @@ void AnnounceChanges(FormView& view, const std::vector<ShownForm::ChangedWords>&
   const auto* board = dynamic_cast<FormAccessible*>(QAccessible::queryAccessibleInterface(&view));
   if (!board) return;
   for (const ShownForm::ChangedWords& changed : words) {
-    // Those that had no name before are new, and found with their name.
+    // A control without a former name is new, and assistive technology reads its name anyway.
     if (changed.Before.empty()) continue;
     QAccessibleEvent event(board->childOf(*view.ViewedForm().Controls[changed.Place]),
                            QAccessible::NameChanged);

@@ -3,8 +3,8 @@
 #include "desktop/form_view.h"
 
 /// Offers the controls that a form describes to assistive technology, as named children of its
-/// view. To be called once, before any window is shown.
+/// view. Call it once, before any window is shown.
 void InstallAccessibility();
 
-/// Tells assistive technology, where there is any, which controls have another name now.
+/// Notifies assistive technology, if it is active, of the controls whose name has changed.
 void AnnounceChanges(FormView& view, const std::vector<ShownForm::ChangedWords>& words);

@@ -30,7 +30,7 @@ void DesktopHost::WaitForInput(std::optional<Instant> until) {
   QEventLoop loop;
   waiting = &loop;
   if (until) {
-    // The instant may have passed meanwhile, and a timer refuses to start for less than nothing.
+    // May be negative by now, and QTimer refuses that.
     const auto delay = std::chrono::ceil<std::chrono::milliseconds>(*until - Now());
     alarm.start(std::max(delay, std::chrono::milliseconds(0)));
   }

@@ -17,7 +17,7 @@ constexpr int LeastDepth = 15;  // bits a pixel; on less Qt draws nothing
 
 /// Ends the program with one line, even if two threads come to know at once: on Wayland Qt reads
 /// from the display in a thread of its own.
-[[noreturn]] void Leave(const QString& reason) {
+[[noreturn]] void ExitWith(const QString& reason) {
   static std::mutex onlyOne;
   onlyOne.lock();
   std::fprintf(stderr, "velmoran: %s\n", qPrintable(reason.simplified()));
@@ -30,32 +30,33 @@ QString& Reasons() {
   return reasons;
 }
 
-[[noreturn]] void TellReasons() { Leave("no window can be opened" + Reasons()); }
+[[noreturn]] void ExitWithReasons() { ExitWith("no window can be opened" + Reasons()); }
 
-[[noreturn]] void TellLost() { Leave("the display is gone"); }
+[[noreturn]] void ExitDisplayLost() { ExitWith("the display is gone"); }
 
-void HearQt(QtMsgType, const QMessageLogContext&, const QString& message) {
-  if (message.contains("connection broke")) TellLost();
+void HandleQtMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
+  if (message.contains("connection broke")) ExitDisplayLost();
   // Qt 6.8 says so of its windows on Wayland at scales like 1.5, and has just set it straight.
   if (message.contains("device pixel ratio value was stale")) return;
   std::fprintf(stderr, "%s\n", qPrintable(message));
 }
 
-void HearQtAtStart(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+void HandleQtMessageAtStart(QtMsgType type, const QMessageLogContext& context,
+                            const QString& message) {
   if (type == QtDebugMsg || message.contains("connection broke"))
-    return HearQt(type, context, message);
+    return HandleQtMessage(type, context, message);
   // Its last words, of all the plugins that there are, are no reason.
   if (!message.contains("no Qt platform plugin could be initialized"))
     Reasons() += (Reasons().isEmpty() ? ": " : "; ") + message.simplified();
-  if (type == QtFatalMsg) TellReasons();
+  if (type == QtFatalMsg) ExitWithReasons();
 }
 
 /// Its library would print this by itself, past Qt.
-void HearWayland(const char* format, std::va_list values) {
+void HandleWaylandMessage(const char* format, std::va_list values) {
   qWarning("%s", qPrintable(QString::vasprintf(format, values).trimmed()));
 }
 
-int HearXlib(void*) { TellLost(); }
+int HandleXlibError(void*) { ExitDisplayLost(); }
 
 /// A function of a library that Qt may use; null where there is none.
 template <typename Function>
@@ -67,20 +68,21 @@ Function* Find(const char* library, int mode, const char* name) {
 }  // namespace
 
 void ReportMissingDisplay() {
-  qInstallMessageHandler(HearQtAtStart);
+  qInstallMessageHandler(HandleQtMessageAtStart);
   using Handler = void (*)(const char* format, std::va_list values);
   const char* setter = "wl_log_set_handler_client";
-  if (auto* set = Find<void(Handler)>("libwayland-client.so.0", 0, setter)) set(HearWayland);
+  if (auto* set = Find<void(Handler)>("libwayland-client.so.0", 0, setter))
+    set(HandleWaylandMessage);
 }
 
 void ReportLostDisplay() {
   const QScreen* screen = QGuiApplication::primaryScreen();
-  if (!screen) TellReasons();
+  if (!screen) ExitWithReasons();
   if (screen->depth() < LeastDepth)
-    Leave(QString("a display of %1 bits has too few colours").arg(screen->depth()));
-  qInstallMessageHandler(HearQt);
+    ExitWith(QString("a display of %1 bits has too few colours").arg(screen->depth()));
+  qInstallMessageHandler(HandleQtMessage);
   // On X11 it may be Xlib that notices first. Qt's plugin has loaded it then, and only then.
   using Handler = int (*)(void* display);
   const char* setter = "XSetIOErrorHandler";
-  if (auto* set = Find<Handler(Handler)>("libX11.so.6", RTLD_NOLOAD, setter)) set(HearXlib);
+  if (auto* set = Find<Handler(Handler)>("libX11.so.6", RTLD_NOLOAD, setter)) set(HandleXlibError);
 }

@@ -4,8 +4,8 @@
 // standard error and exit code 1. Left alone, Qt, Xlib and libwayland tell it at length, and Qt
 // aborts.
 
-/// To be called before there is an application. The line gives the reasons that Qt gave.
+/// Call it before the application is created. The line gives the reasons that Qt gave.
 void ReportMissingDisplay();
 
-/// To be called once there is one: from here on other messages of Qt are told as they are.
+/// Call it once the application exists. From then on other messages of Qt are printed unchanged.
 void ReportLostDisplay();

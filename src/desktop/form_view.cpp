@@ -10,8 +10,8 @@
 
 namespace {
 
-/// Around what is repainted. At a fractional ratio Qt rounds the region that it lets be painted and
-/// the edges of what is painted there, each for itself, and the two may lie pixels apart.
+/// In pixels, around each repainted place. At a fractional device pixel ratio Qt rounds the clip
+/// region and the painted edges separately, so the two may be pixels apart.
 constexpr int RepaintMargin = 2;
 
 QRect AroundPixels(const QRectF& pixels) {

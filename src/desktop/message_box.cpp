@@ -37,7 +37,7 @@ QString TextOf(const std::string& text) {
   return QString::fromStdString(text).replace("\r\n", "\n");
 }
 
-/// Each paragraph on one line, to be wrapped anew. Paragraphs are what stands between blank lines.
+/// Puts each paragraph on one line, for the box to wrap. Blank lines separate paragraphs.
 QString JoinBrokenLines(QString text) {
   static const QRegularExpression singleBreak("(?<!\n)\n(?!\n)");
   return text.replace(singleBreak, " ");
@@ -72,7 +72,7 @@ void ShowModal(const MessageBox& box, QWidget* window) {
   QMessageBox dialog(IconOf(box.Icon), QString::fromStdString(box.Title), TextOf(box.Text),
                      QMessageBox::Ok, window);
   dialog.setTextFormat(Qt::PlainText);
-  // Nobody knows its frame before the window manager has drawn it: the style's own is about as
+  // The frame is unknown before the window manager has drawn it. The style's own frame is about as
   // wide.
   const int frame = dialog.style()->pixelMetric(QStyle::PM_MdiSubWindowFrameWidth);
   const int screenWidth = dialog.screen()->availableGeometry().width();

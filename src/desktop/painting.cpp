@@ -22,8 +22,8 @@ void PaintEllipse(QPainter& painter, const QRectF& box) {
 
 void PaintShape(QPainter& painter, const PictureShape& shape) {
   const QColor fill = ToQColor(shape.Fill);
-  // Round and slanted edges are smoothed. Straight ones are not: at a scale like 1.25 they would
-  // let the ground shine through along the seams.
+  // Round and slanted edges are smoothed. Straight ones are not: at a scale like 1.25
+  // antialiasing shows the background along the seams.
   painter.setRenderHint(QPainter::Antialiasing, shape.Outline != PictureShape::Kind::Rectangle);
   painter.setPen(Qt::NoPen);
   painter.setBrush(fill);
@@ -68,8 +68,8 @@ void PaintLabel(QPainter& painter, const Control& control) {
   if (!control.Caption.empty()) PaintCaption(painter, control);
 }
 
-/// A frame of lines of these colours, the outermost first. It is laid out in pixels of the screen,
-/// as each side for itself might be rounded otherwise than the next.
+/// A frame of lines of these colours, the outermost first. It is laid out in device pixels,
+/// because rounding each side separately could make them unequally thick.
 void PaintFrame(QPainter& painter, const QRectF& place, int lineWidth,
                 std::span<const Color> colors) {
   const QTransform toScreen = painter.deviceTransform();

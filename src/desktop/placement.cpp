@@ -53,9 +53,9 @@ Placement::Placement(QWidget& placedWindow, FormView& placedView)
 }
 
 bool Placement::eventFilter(QObject*, QEvent* event) {
-  const bool mayKnowFrame = event->type() == QEvent::Expose || event->type() == QEvent::Move;
+  const bool frameMayBeKnown = event->type() == QEvent::Expose || event->type() == QEvent::Move;
   // Only once: later it is the user who moves the window, and may.
-  if (mayKnowFrame && frame.isNull() && !handle->frameMargins().isNull()) KeepInReach();
+  if (frameMayBeKnown && frame.isNull() && !handle->frameMargins().isNull()) KeepInReach();
   return false;
 }
 

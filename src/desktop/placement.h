@@ -13,7 +13,7 @@ class Placement : public QObject {
   /// the placement.
   Placement(QWidget& placedWindow, FormView& placedView);
 
-  /// Notices when the window manager has drawn the frame. No signal says so.
+  /// Qt has no signal for the frame. It is known by the first Expose or Move with margins.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -26,6 +26,6 @@ class Placement : public QObject {
   QWidget& window;
   FormView& view;
   QWindow* handle = nullptr;
-  QMargins frame;  // the title bar and the edges; empty until the window manager has told
+  QMargins frame;  // the title bar and the edges; empty until the window manager reports them
   QMetaObject::Connection roomChanged;
 };
