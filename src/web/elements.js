@@ -1,8 +1,8 @@
 'use strict';
-// The parts of the page that the scripts share.
+// Elements of the page that the scripts share.
 
 /**
- * The first element that a selector names: it is there.
+ * The first element that matches the selector. There must be one. `_kind` only gives its type.
  * @template {Element} [T=HTMLElement]
  * @param {string} selector
  * @param {new () => T} [_kind]

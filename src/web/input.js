@@ -1,8 +1,8 @@
 'use strict';
-// Pointer and keys.
+// Input by pointer and keyboard.
 
 function watchPointer() {
-  /** The pointer whose buttons are down. @type {number | undefined} */
+  /** The id of the captured pointer; undefined if none is. @type {number | undefined} */
   let holder;
   let area = view.getBoundingClientRect();
   /** @param {PointerEvent} event */
@@ -13,7 +13,7 @@ function watchPointer() {
       holder = event.pointerId;
       view.focus();
     }
-    // To ask for it again in a drag would lay the page out anew for each event.
+    // Not during a drag: it would force a layout at each event.
     if (!event.buttons || event.type == 'pointerdown') area = view.getBoundingClientRect();
     const scale = view.viewBox.baseVal.width / area.width;
     const isMove = event.type == 'pointermove';
@@ -38,8 +38,8 @@ addEventListener('blur', cancelDrag);
 document.addEventListener('visibilitychange', () => document.hidden && cancelDrag());
 
 /**
- * The letter of a key; where it has none of ours, as in Greek, what stands there on others.
- * A browser that fills in a field sends key events without either.
+ * What a key types, in upper case. If that is not ASCII, as on a Greek keyboard, the letter that
+ * the key has on a US keyboard. Autofill sends key events without `key` and `code`.
  * @param {Partial<KeyboardEvent>} event
  */
 const letterOf = ({key = '', code = ''}) =>
@@ -47,7 +47,7 @@ const letterOf = ({key = '', code = ''}) =>
 
 document.addEventListener('keydown', event => {
   if (box.open) {
-    // A click beside the button has taken the focus from it.
+    // The button may have lost the focus: a click beside it takes the focus away.
     if (event.key != 'Enter') return;
     if (!event.repeat) box.close();
   } else {

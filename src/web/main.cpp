@@ -20,11 +20,11 @@ Program& TheProgram() {
   return program;
 }
 
-// What the page calls.
+// The functions that the page calls.
 extern "C" {
 
-/// Where the page keeps the stack while it waits: the address of the free part, that of the end,
-/// then the room. The deepest wait seen took half a kilobyte.
+/// The buffer in which Asyncify saves the stack. Its first word is the address of the free part,
+/// its second word the address of the end. The deepest stack measured took half a kilobyte.
 TO_PAGE(stack) std::uintptr_t* Stack() {
   static std::array<std::uintptr_t, 1024> stack;
   stack[0] = reinterpret_cast<std::uintptr_t>(&stack[2]);
@@ -32,19 +32,21 @@ TO_PAGE(stack) std::uintptr_t* Stack() {
   return stack.data();
 }
 
-/// Plays. The page comes back into it each time that a wait is over.
+/// Runs the game. The page calls it again after each wait, and Asyncify then resumes the wait.
 TO_PAGE(run) void Run() { TheProgram().Run(); }
 
-/// The pointer is at this point, in twips, with these buttons down, as `ButtonWatch` takes them.
+/// A pointer event: the point on the form in twips, which may lie outside, and the pressed buttons
+/// as the bits that `ButtonWatch` takes. `isMove` says that the event is a movement.
 TO_PAGE(see) void See(int x, int y, unsigned buttons, bool isMove) {
   static ButtonWatch watch;
   for (const InputEvent::Kind what : watch.See(buttons, isMove)) TheHost().Put(what, {x, y});
 }
 
-/// Ends the drag: the page is left, a menu has been opened, or the like.
+/// Queues the end of a drag that only the page sees, such as a menu that opens. Harmless if there
+/// is no drag.
 TO_PAGE(cancelDrag) void CancelDrag() { TheHost().Put(InputEvent::Kind::CancelDrag); }
 
-/// The menu command of this value.
+/// Queues the menu command whose entry has this value. A value out of range stops the program.
 TO_PAGE(choose) void Choose(unsigned command) {
   TheHost().Put(InputEvent::Kind::MenuCommand, {}, command);
 }

@@ -11,7 +11,7 @@ std::string RectPath(const Rect& rect) {
          width + "v" + std::to_string(rect.Height) + "h-" + width + "z";
 }
 
-/// What a line of this width along its edges leaves of the rectangle.
+/// The rectangle without a line of this width along its edges.
 Rect Inside(const Rect& rect, int width) {
   return {rect.Left + width, rect.Top + width, rect.Width - 2 * width, rect.Height - 2 * width};
 }
@@ -21,7 +21,7 @@ std::string FrameMarkup(const Rect& rect, int width, Color color) {
          Attribute("d", RectPath(rect) + RectPath(Inside(rect, width))) + "/>";
 }
 
-/// In the middle of the control, at its upper edge.
+/// The caption, centred at the top edge of the control.
 std::string CaptionMarkup(const Control& control) {
   constexpr int TwipsPerPoint = 20;
   std::string families;
@@ -70,7 +70,8 @@ std::string OutlineMarkup(const Rect& place) {
 }
 
 std::string FormMarkup(const Form& form) {
-  // The groups stand from back to front, as they are drawn, but are read out in the form's order.
+  // SVG draws from back to front; the form lists the frontmost control first. Screen readers follow
+  // the order of the form.
   std::string groups;
   std::string order;
   for (std::size_t place = 0; place <= form.Controls.size(); ++place) {

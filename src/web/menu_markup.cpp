@@ -4,7 +4,7 @@
 
 namespace {
 
-/// The entry itself, without what it opens.
+/// The button of an entry, without its submenu.
 std::string ItemMarkup(const MenuItem& item, const std::string& attributes) {
   std::string caption = Escaped(item.Caption);
   constexpr std::string_view Mark = "&amp;";
@@ -18,7 +18,7 @@ std::string ItemMarkup(const MenuItem& item, const std::string& attributes) {
          "</button>";
 }
 
-/// `firstTab` is the tab index of the first entry: the bar takes one stop, its menus none.
+/// `firstTab` is the tabindex of the first entry; all others get -1. So Tab stops once at the bar.
 std::string ItemsMarkup(const std::vector<MenuItem>& items, int firstTab,
                         std::vector<const MenuItem*>& commands) {
   std::string markup;

@@ -1,5 +1,5 @@
 'use strict';
-// The menus of the form. An entry that opens one is followed by it.
+// The menus of the form. In the document a menu follows the entry that opens it.
 
 /** @param {Element} item */
 const isOwner = item => item.hasAttribute('aria-haspopup');
@@ -7,7 +7,7 @@ const isOwner = item => item.hasAttribute('aria-haspopup');
 const isOpen = item => item.getAttribute('aria-expanded') == 'true';
 /** @param {Element} item */
 const menuOf = item => item.closest('[role=menu], [role=menubar]');
-/** The entry that opens the menu of this one; none of an entry of the bar. @param {Element} item */
+/** The entry whose menu holds this one; null for an entry of the bar. @param {Element} item */
 const ownerOf = item =>
   /** @type {HTMLButtonElement | null} */ (menuOf(item)?.previousElementSibling);
 /** @param {Element | null} menu */
@@ -17,7 +17,7 @@ const itemsOf = menu =>
 const itemAt = target => (target instanceof Element ? target.closest('button') : null);
 
 /**
- * Shows the menu of this entry and those that it lies in, and no others; without an entry none.
+ * Opens the menu of this entry and the menus around the entry. Closes all others; null closes all.
  * @param {Element | null} item
  */
 function openMenu(item) {
@@ -39,7 +39,7 @@ function leaveMenu(owner) {
   owner.focus();
 }
 
-/** What a key does at an entry; undefined: nothing. @param {KeyboardEvent} event */
+/** The action of a key at an entry; undefined if it has none. @param {KeyboardEvent} event */
 function menuAction(event) {
   const bar = itemsOf(document.querySelector('nav')),
     item = itemAt(event.target);
@@ -82,7 +82,7 @@ function watchMenu() {
       view.focus();
       put(program => program.choose(Number(item.value)));
     } else if (!detail) {
-      enterMenu(item, 0); // by a key
+      enterMenu(item, 0); // the click came from a key
     } else {
       openMenu(menuOf(item) == bar && isOpen(item) ? null : item);
       item.focus();
@@ -94,7 +94,7 @@ function watchMenu() {
     openMenu(isOwner(item) ? item : ownerOf(item));
     item.focus();
   });
-  // Not every browser gives a button the focus at a click: it is given here, in all of them.
+  // Not every browser focuses a button at a click, so the click handler does it in all of them.
   bar.addEventListener('mousedown', event => event.preventDefault());
   bar.addEventListener('focusout', ({relatedTarget}) => {
     if (!(relatedTarget instanceof Element && bar.contains(relatedTarget))) openMenu(null);

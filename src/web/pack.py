@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
-"""Makes one page that needs nothing beside itself: pack.py PROGRAM.wasm ICON.png PAGE.html OUT.html
+"""Makes one self-contained page: pack.py PROGRAM.wasm ICON.png PAGE.html OUT.html
 
-The scripts and styles that PAGE.html names are put into their places. The policy of the page lets
-it run these alone."""
+The scripts and styles that PAGE.html names are inlined. The content security policy of the page
+allows these alone, by their hashes."""
 
 import base64
 import gzip

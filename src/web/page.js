@@ -1,19 +1,19 @@
 'use strict';
-// What the program asks of the page: the functions of page.h.
+// The functions that the program calls. page.h describes them.
 
 const Ended = new Error('The game has ended.');
 
 /** The form that is shown. @type {SVGSVGElement} */
 let view;
 
-/** @param {number} address */
+/** The text at an address of the program's memory. @param {number} address */
 function textAt(address) {
   if (!program) return '';
   const memory = new Uint8Array(program.memory.buffer);
   return new TextDecoder().decode(memory.subarray(address, memory.indexOf(0, address)));
 }
 
-/** A paragraph with its lines broken as in the text. @param {string} text */
+/** A paragraph with the line breaks of the text. @param {string} text */
 function paragraphOf(text) {
   const paragraph = document.createElement('p');
   const lines = text.split('\r\n').flatMap(line => [' ', document.createElement('br'), line]);
@@ -21,7 +21,7 @@ function paragraphOf(text) {
   return paragraph;
 }
 
-/** Joins the lines of a box where one of them would have to be broken once more. */
+/** Joins the lines of the box if one of them is too wide for it, so that they wrap anew. */
 function fitLines() {
   const text = one('dialog section');
   text.className = 'unbroken';
@@ -32,7 +32,7 @@ function fitLines() {
 }
 addEventListener('resize', fitLines);
 
-/** The group of a control. @param {number} place */
+/** The SVG group of a control. @param {number} place */
 const groupAt = place => one('#control' + place, SVGGElement);
 
 /** @type {Imports} */
@@ -67,7 +67,7 @@ const page = {
     one('link[rel=icon]', HTMLLinkElement).href =
       'data:image/svg+xml,' + encodeURIComponent(textAt(icon));
     view = one('#view', SVGSVGElement);
-    view.setAttribute('aria-label', document.title); // without the blanks around it
+    view.setAttribute('aria-label', document.title); // trimmed by the browser
     watchPointer();
     watchMenu();
   },

@@ -1,6 +1,10 @@
-// What program and page are to each other. page.h and main.cpp say what each function does.
+// The interface between program and page. main.cpp describes what the program exports, page.h what
+// it imports.
 
-/** What the program exports; the last four are Asyncify's. Addresses and sizes are numbers. */
+/**
+ * What the program exports: its own functions, then those of Asyncify. `stack` and the parameters
+ * of that name are addresses in the memory. Call `_initialize` once, before all others.
+ */
 interface Program {
   readonly memory: WebAssembly.Memory;
   _initialize(): void;
@@ -16,7 +20,7 @@ interface Program {
   asyncify_stop_rewind(): void;
 }
 
-/** What the program imports. Texts are addresses of UTF-8 that ends with a zero. */
+/** What the program imports. A text is the address of UTF-8 that ends with a zero. */
 type Imports = {
   now(): number;
   secondsSinceMidnight(): number;
@@ -31,6 +35,6 @@ type Imports = {
 };
 
 interface Window {
-  /** What the tests reach into. */
+  /** For the tests. `awaited` is empty while the program does not wait. */
   velmoran: {readonly program?: Program; readonly awaited: '' | 'input' | 'box'};
 }

@@ -2,5 +2,5 @@
 
 #include "ui/program.h"
 
-/// The one program of the page: it lives as long as the page does.
+/// The only program of the page. It is made at the first call and never destroyed.
 Program& TheProgram();

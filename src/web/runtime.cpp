@@ -1,5 +1,5 @@
-// What the C and C++ libraries call when a promise of the program is broken. Their own functions
-// would print, and bring all of printf along.
+// The functions that the C and C++ libraries call after a failed assert and the like. The
+// libraries' own versions print, and so would add all of printf to the page.
 #ifdef __wasm__
 
 #include <__verbose_abort>

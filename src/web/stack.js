@@ -1,18 +1,20 @@
 'use strict';
-// The program runs until it waits. Its stack is laid aside then (Binaryen's Asyncify).
+// The program runs until it waits. Then its stack is saved (by Binaryen's Asyncify), and the page
+// goes on.
 
-/** Nothing before it runs and after it has ended. @type {Program | undefined} */
+/** Undefined before it runs and after it has ended. @type {Program | undefined} */
 let program;
-let stack = 0; // where its stack lies while it waits
-/** What it waits for. @type {'' | 'input' | 'box'} */
+let stack = 0; // the address of the buffer in which its stack is saved
+/** What the program waits for; empty while it does not wait. @type {'' | 'input' | 'box'} */
 let awaited = '';
-let alarm = 0; // the timer that ends a wait for input
+let alarm = 0; // the id of the timer that ends a wait for input
 
 const Rewinding = 2;
 
 /**
- * An import of the program that returns only after `goOn`.
- * @param {(...values: number[]) => void} begin says what is awaited
+ * An import of the program that returns to it only after `goOn`. The program calls it twice: first
+ * to wait, which saves its stack, and once more when the stack has been restored.
+ * @param {(...values: number[]) => void} begin starts the wait and sets `awaited`
  * @returns {(...values: number[]) => void}
  */
 function suspending(begin) {
@@ -25,7 +27,7 @@ function suspending(begin) {
 }
 
 /**
- * Calls into the program. Only what is thrown in there ends the game.
+ * Calls into the program. An error in there ends the game; one elsewhere in the page does not.
  * @param {(program: Program) => void} call
  */
 function enter(call) {
@@ -43,6 +45,7 @@ function run(program) {
   program.asyncify_stop_unwind();
 }
 
+/** Ends the wait: restores the stack and resumes the program. */
 function goOn() {
   clearTimeout(alarm);
   awaited = '';
@@ -53,7 +56,7 @@ function goOn() {
 }
 
 /**
- * Hands input to the program.
+ * Queues input of the program, and resumes it if it waits for input. Dropped while a box is open.
  * @param {(program: Program) => void} queue
  */
 function put(queue) {

@@ -1,7 +1,7 @@
 'use strict';
-// The beginning and the end of the game.
+// The start and the end of the game.
 
-/** Why there is no game any more, in words for who wanted to play. @param {unknown} reason */
+/** Tells the player why the game has ended. @param {unknown} reason */
 function sentenceFor(reason) {
   if (reason == Ended) return 'The game is closed.';
   if (!window.WebAssembly || (!program && reason instanceof WebAssembly.CompileError)) {
@@ -10,7 +10,7 @@ function sentenceFor(reason) {
   return 'The game has found a fault in itself and stopped.';
 }
 
-/** Leaves a sentence instead of the game, of which nothing goes on. @param {unknown} reason */
+/** Ends the game and shows the reason in its place. @param {unknown} reason */
 function leave(reason) {
   if (reason != Ended) console.error(reason);
   main.innerHTML = '<p></p><button>Start again</button>';
@@ -25,8 +25,8 @@ function leave(reason) {
 
 async function start() {
   main.className = '';
-  if (!window.DecompressionStream) return; // too old: what stands there says so
-  // A page that was saved in the middle of a game bears what was shown.
+  if (!window.DecompressionStream) return; // too old a browser: the sentence in <main> stays
+  // A page that was saved during a game still contains what it showed.
   main.textContent = news.textContent = '';
   box.open = false;
   const packed = Uint8Array.from(atob(one('#program').textContent ?? ''), c => c.charCodeAt(0));
