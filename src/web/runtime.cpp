@@ -9,6 +9,8 @@
 extern "C" {
 [[noreturn]] void __assert_fail(const char* text, const char*, int, const char*) { PageFail(text); }
 [[noreturn]] void abort_message(const char* text, ...) { PageFail(text); }
+// The name of it in newer versions of the library.
+[[noreturn]] void __abort_message(const char* text, ...) { PageFail(text); }
 }
 
 _LIBCPP_BEGIN_NAMESPACE_STD
