@@ -55,11 +55,18 @@ class Page {
   async screenshot() {
     return Buffer.from(await this.call('GET', '/screenshot'), 'base64');
   }
-  /// The window's own parts, such as its address bar, come on top.
+  /// The window is larger than the page by its address bar and the like. It is corrected until the
+  /// page has its size.
   async setViewport({width, height}) {
-    await this.call('POST', '/window/rect', {width, height});
-    const [w, h] = await this.evaluate(() => [innerWidth, innerHeight]);
-    await this.call('POST', '/window/rect', {width: 2 * width - w, height: 2 * height - h});
+    let [outerWidth, outerHeight] = [width, height];
+    for (let tries = 0; tries < 20; ++tries) {
+      await this.call('POST', '/window/rect', {width: outerWidth, height: outerHeight});
+      await new Promise(resolve => setTimeout(resolve, 50));
+      const [innerWide, innerHigh] = await this.evaluate(() => [innerWidth, innerHeight]);
+      if (innerWide == width && innerHigh == height) return;
+      outerWidth += width - innerWide;
+      outerHeight += height - innerHigh;
+    }
   }
   bringToFront() {}
   close() {
