@@ -151,15 +151,16 @@ TEST(Menu, ReachesEachCommandOnce) {
                                   {"Rules of Velmoran (Part 3)", {1, 1}}}));
 }
 
-/// With the jump over 14 in the path, the piece is let go in each place that makes no move.
+/// With the jump over 13 in the path, the piece is let go in each place that makes no move.
 TEST(MainWindow, ADragThatComesToNothingForgetsItsPath) {
   const Desk any;
   const std::pair<const char*, Point> places[] = {{"on a red cell", {0, 0}},
-                                                  {"on a green piece", any.Middle(14)},
+                                                  {"on a green piece", any.Middle(13)},
                                                   {"on a friend", any.Middle(9)},
+                                                  {"on a king where it lands", any.Middle(17)},
                                                   {"outside", {-1, 50}}};
   for (const auto& [where, place] : places) {
-    Desk desk(Board(".... .... .... .... .g.. bb.. .... ...."));
+    Desk desk(Board(".... .... .... B... g... bb.. .... ...."));
     desk.Press(10);
     desk.Move(17);
     desk.DeliverInput();
