@@ -1,4 +1,4 @@
-"""Plays one case in a real window: real_window_test.py PROGRAM CASE. Bare, it lists the cases."""
+"""Runs a case in a real window: real_window_test.py PROGRAM CASE. No arguments: lists the cases."""
 
 import glob, os, pathlib, subprocess, sys, time
 
@@ -6,15 +6,15 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from real_window import BOARD, DOWN, START, UP, Game, Screen, until
 
 FAKE = {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketime.so.1"}
-SLOW = FAKE | {"FAKETIME": "+0 x0.1"}  # a splash that lasts for 25 s
+SLOW = FAKE | {"FAKETIME": "+0 x0.1"}  # the splash stays for 25 s
 NOON = FAKE | {
     "FAKETIME": "2024-01-01 12:00:00",
     "FAKETIME_DONT_FAKE_MONOTONIC": "1",
-}  # then a game soon offers a double jump
+}  # the clock seeds the game; this one offers a double jump early
 
 
 def splash(game):
-    """It has no frame, a border within a margin, and captions at the top of their labels."""
+    """No frame, a border inside a margin, captions at the top of their labels."""
     left, top, width, height = game.splash
     black, red, lines = (0, 0, 0), (255, 0, 0), {(255, 255, 255), (0, 255, 0), (255, 255, 0)}
     until("the whole splash", lambda: game.colours(*game.splash) > lines)
@@ -25,7 +25,7 @@ def splash(game):
 
 
 def whole(game):
-    """A turn of each side, New Game at two stages of the computer's, and Exit at a third."""
+    """A turn of each side, then New Game and Exit during the computer's blink."""
     game.play_to("last_blink")
     for move in (11, 15), (9, 13):
         new_game(game)
@@ -40,7 +40,7 @@ def new_game(game):
 
 
 def rest(game):
-    """A game at rest, here after a computer's turn that was broken off, costs nothing at all."""
+    """An idle game uses no processor time, here after New Game during the computer's turn."""
 
     def cost():
         process = f"/proc/{game.process.pid}/"
@@ -54,15 +54,15 @@ def rest(game):
         return cost() == before
 
     new_game(game)
-    until("rest", lambda: is_unchanged(0.3))
-    assert is_unchanged(2), "something woke the game"
+    until("an idle process", lambda: is_unchanged(0.3))
+    assert is_unchanged(2), "the idle process woke up"
 
 
 def help_holds_the_turn(game):
     game.do("key ctrl+c")
     box = until("the help", lambda: game.window("Velmoran Game Controls"))
     game.do(f"windowmove {box[0]} 0 0")
-    until("the board beside it", lambda: "?" not in game.board())
+    until("the uncovered board", lambda: "?" not in game.board())
     shown, stop = game.board(), time.monotonic() + 0.7
     while time.monotonic() < stop:
         assert game.board() == shown
@@ -71,7 +71,7 @@ def help_holds_the_turn(game):
 
 
 def drags(game):
-    """Each way in which a drag ends without a drop: nothing is left, and the next one works."""
+    """A drag that ends without a drop leaves no pixels behind, and the next drag works."""
     game.start("xev", "-geometry", "200x200+0+0")
     other = until("another window", lambda: game.window("Event Tester"))[0]
     file_menu, outside = (game.left + 20, game.top - 8), (100, 400)
@@ -86,15 +86,15 @@ def drags(game):
         game.do(10, DOWN, 14)
         until("the outline", lambda: game.picture() != game.at_rest)
         game.do(*way)
-        until(f"no trace after {way}", lambda: game.picture() == game.at_rest)
+        until(f"the start picture after {way}", lambda: game.picture() == game.at_rest)
         game.do(14, UP)
         game.move(9, 13)
-        until(f"one move after {way}", lambda: game.board() == START[:8] + ".bbbb" + START[13:])
+        until(f"a move after {way}", lambda: game.board() == START[:8] + ".bbbb" + START[13:])
         new_game(game)
 
 
 def small_screen(game):
-    """All is in reach, the box included, and the pointer hits what it sees: a turn of each side."""
+    """Window and box fit the screen, and a turn of each side can be played."""
     width, height, _ = map(int, game.size.split("x"))
     for title in " Velmoran", "Velmoran Game Controls":
         _, left, top, *size = game.window(title)
@@ -104,30 +104,30 @@ def small_screen(game):
 
 
 def scale_changes(game):
-    """Box, board and drag follow the desktop's scale, each at its place. The window keeps its size,
-    and stays where the user puts it."""
+    """Box, board and drag follow the desktop's scale, and the window keeps its place. The user can
+    move the window but not resize it."""
     title, _, *place = "Velmoran Game Controls", *game.window("Velmoran Game Controls")
     window = game.window(" Velmoran")
     grey = game.colours(place[0] + 5, place[1] + 5)
     game.set_scale(1.5)
     until("a larger box", lambda: game.window(title)[3] >= place[2] * 3 // 2)
-    until("all of it", lambda: game.colours(place[0] + place[2] * 3 // 2 - 9, place[1]) == grey)
+    until("its paint", lambda: game.colours(place[0] + place[2] * 3 // 2 - 9, place[1]) == grey)
     game.measure()
     game.play_to("drag")
     assert (game.side, game.window(" Velmoran")[:3]) == (BOARD * 3 // 2, window[:3])
     game.set_scale(1)
-    until("the old size", lambda: game.measure() or game.side == BOARD)
+    until("the first size", lambda: game.measure() or game.side == BOARD)
     game.do(14)
     game.play_to("last_blink")
     game.run("wmctrl", "-ir", game.name, "-e", f"0,{game.width - 300},50,900,900")
-    until("another place", lambda: game.measure() or game.left == game.width - 300)
+    until("the moved window", lambda: game.measure() or game.left == game.width - 300)
     game.do("key ctrl+n")
     game.move(9, 13)
     assert game.window(" Velmoran")[1:] == (game.width - 300, 50, *window[3:])
 
 
 def rules(game):
-    """Their paragraphs are wrapped, and end before the box does."""
+    """The box wraps the paragraphs of the rules and cuts none at its right edge."""
     game.do("key alt key Right key Down key r key 3")
     _, left, top, width, height = until("the rules", lambda: game.window(".* .Part 3."))
     text = left + 80, top + 10, width - 90, 100
@@ -140,7 +140,7 @@ def rules(game):
 def double_jump(game, *path):
     for move in (12, 15), (7, 12), (10, 13), path:
         game.move(*move)
-    until("both pieces gone", lambda: game.board().count("g") == 10)
+    until("two captures", lambda: game.board().count("g") == 10)
 
 
 def closed(game):
@@ -167,8 +167,8 @@ def ended(game):
 
 def display_lost(game):
     game.server.terminate()
-    code, _, said = game.ended()
-    assert code > 0 and len(said) == 1, (code, said)
+    code, _, errors = game.ended()
+    assert code > 0 and len(errors) == 1, (code, errors)
 
 
 def no_display(game):
@@ -185,14 +185,14 @@ def no_display(game):
     poor.server.terminate()
 
 
-CASES = {  # the stage to play to, what happens then, and what the game is started with
+CASES = {  # the stage to play to, the test, arguments of Game
     "no_display": ("splash", no_display, SLOW),
     "splash": ("splash", splash, SLOW),
     "whole": ("splash", whole, {}),
     "scale_changes": ("help", scale_changes, {"scale": 1}),
     "rest": ("blink", rest, {}),
     "help_holds_the_turn": ("blink", help_holds_the_turn, {}),
-    "rules": ("turn", rules, {"size": "1040x800x24"}),  # where Qt leaves a box least room
+    "rules": ("turn", rules, {"size": "1040x800x24"}),  # Qt's narrowest box is at this width
     "double_jump": ("turn", lambda game: double_jump(game, 5, 14, 23), NOON),
     "double_jump_in_a_leap": ("turn", lambda game: double_jump(game, 5, 23), NOON),
 }

@@ -20,11 +20,11 @@
 
 namespace {
 
-std::vector<std::string> Announced;  // the names of controls that have changed
+std::vector<std::string> Announced;  // the new names, in order
 
 }  // namespace
 
-// The screen of these tests has no assistive technology, and Qt ignores what is told to none.
+// No assistive technology runs here, and Qt would drop the updates. These replace Qt's own.
 bool QAccessible::isActive() { return true; }
 void QAccessible::updateAccessibility(QAccessibleEvent* event) {
   if (event->type() != QAccessible::NameChanged) return;
@@ -37,14 +37,14 @@ constexpr QRgb White = qRgb(255, 255, 255), Black = qRgb(0, 0, 0), Red = qRgb(25
                Cyan = qRgb(1, 255, 255);
 constexpr QRgb Blue = qRgb(36, 1, 254), Green = qRgb(36, 255, 2), DarkGreen = qRgb(1, 127, 1);
 
-/// How many pixels of a row have exactly this colour.
+/// The number of pixels in row `y` with exactly this colour.
 int Count(const QImage& image, int y, QRgb colour) {
   int count = 0;
   for (int x = 0; x < image.width(); ++x) count += (image.pixel(x, y) | 0xff000000) == colour;
   return count;
 }
 
-TEST(View, ShowsEachPictureToThePixel) {
+TEST(View, PaintsEachPictureToThePixel) {
   Desk desk(Board("g... .... .... .... .... .... .... bB.."));
   const struct {
     const Control& Box;
@@ -72,7 +72,7 @@ TEST(View, ShowsEachPictureToThePixel) {
   }
 }
 
-TEST(View, IsSharpAtAnyRatio) {
+TEST(View, HasSharpEdgesAtAnyScale) {
   for (const double ratio : {1.25, 1.5, 2.0}) {
     const int size = static_cast<int>(65 * ratio);
     QImage image(size, size, QImage::Format_RGB32);
@@ -87,18 +87,18 @@ TEST(View, IsSharpAtAnyRatio) {
     EXPECT_EQ(Count(image, size / 2, White), 2 * line) << ratio;
     EXPECT_EQ(Count(image.transformed(QTransform().rotate(90)), size / 2, White), 2 * line);
     const int edge = qRound(10.3 * ratio);
-    EXPECT_EQ(image.pixel(edge, size / 2), White) << "the light line is the outer one";
+    EXPECT_EQ(image.pixel(edge, size / 2), White) << "the outer line is white";
   }
 }
 
-/// What stands on the screen.
+/// A screenshot of the window.
 QImage Shot(const QWidget& window) {
   QApplication::processEvents();
   return window.screen()->grabWindow(window.winId()).toImage();
 }
 
-// Run at each ratio that screens have, by QT_SCALE_FACTOR.
-TEST(View, ShowsAfterAnyChangesWhatOneRepaintShows) {
+// CTest runs this at several scales, set by QT_SCALE_FACTOR.
+TEST(View, PartialRepaintsEqualAFullRepaint) {
   std::mt19937 generator(1);
   const auto roll = [&](int sides) { return static_cast<int>(generator() % unsigned(sides)); };
   Desk desk(StartPosition());
@@ -108,7 +108,7 @@ TEST(View, ShowsAfterAnyChangesWhatOneRepaintShows) {
   window.setFixedSize(560, 560);
   auto* view = new FormView(desk.form.window);
   view->setParent(&window);
-  view->move(3, 23);  // half a pixel of the screen at 1.5, as a menu bar can make it
+  view->move(3, 23);  // ends in half a pixel at 1.5, as below a menu bar
   window.show();
   for (int round = 0; round < 300; ++round) {
     if (round % 100 == 0) view->SetScale(1 - 0.17 * (round / 100));
@@ -122,19 +122,20 @@ TEST(View, ShowsAfterAnyChangesWhatOneRepaintShows) {
     }
     const Drag drag{&desk.form.window, &desk.form.imgBlueChecker[1], {}, {roll(8000), -roll(8000)}};
     view->Refresh(roll(3) == 0 ? Drag{} : drag);
-    const QImage mended = Shot(window);
+    const QImage partial = Shot(window);
     view->update();
-    ASSERT_EQ(mended, Shot(window)) << "at ratio " << view->devicePixelRatioF() << " in " << round;
+    ASSERT_EQ(partial, Shot(window))
+        << "scale " << view->devicePixelRatioF() << ", round " << round;
   }
 }
 
-TEST(View, KeepsACaptionInItsRoom) {
+TEST(View, ShrinksACaptionToFit) {
   Desk desk;
   for (const char* family : {"Liberation Sans", "DejaVu Sans"}) {
     desk.splash.lblTitle.Font.Families = {family};
     const QImage title = FormView(desk.splash.window).grab().toImage().copy(0, 8, 516, 89);
     const QImage turned = title.transformed(QTransform().rotate(90));
-    std::vector<int> columns;  // that the letters cover
+    std::vector<int> columns;  // with letters
     for (int x = 0; x < 516; ++x) {
       if (Count(turned, x, White) > 0) columns.push_back(x);
     }
@@ -144,7 +145,7 @@ TEST(View, KeepsACaptionInItsRoom) {
   }
 }
 
-/// The window of the main form on the real host.
+/// The main window on the real host.
 class ShownWindow {
  public:
   explicit ShownWindow(Desk& desk) : form(&desk.form.window) {
@@ -161,13 +162,14 @@ class ShownWindow {
     QApplication::sendEvent(view, &event);
   }
 
-  /// What was put into the queue: press, move, release, cancel, menu command, close.
-  std::string Told() {
-    std::string told;
+  /// Empties the event queue. One letter each: press, move, release,
+  /// cancel, N for a menu command, X for close.
+  std::string Events() {
+    std::string letters;
     for (const InputEvent& event : std::exchange(host.Queue, {})) {
-      told += "PMRCNX"[static_cast<int>(event.What)];
+      letters += "PMRCNX"[static_cast<int>(event.What)];
     }
-    return told;
+    return letters;
   }
 
   Form* form;
@@ -175,7 +177,7 @@ class ShownWindow {
   FormView* view = nullptr;
 };
 
-TEST(Window, TellsWhatItIsToldByItsUser) {
+TEST(Window, QueuesTheUsersInput) {
   Desk desk(StartPosition());
   ShownWindow shown(desk);
   QWidget* window = shown.view->window();
@@ -184,26 +186,26 @@ TEST(Window, TellsWhatItIsToldByItsUser) {
   shown.Mouse(QEvent::MouseButtonPress, left, left);
   shown.Mouse(QEvent::MouseMove, Qt::NoButton, left);
   shown.Mouse(QEvent::MouseButtonRelease, left, Qt::NoButton);
-  EXPECT_EQ(shown.Told(), "PMR");
+  EXPECT_EQ(shown.Events(), "PMR");
   shown.Mouse(QEvent::MouseButtonDblClick, left, left);
-  EXPECT_EQ(shown.Told(), "P") << "the second press of a double click";
+  EXPECT_EQ(shown.Events(), "P") << "second press of a double click";
   shown.Mouse(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
-  EXPECT_EQ(shown.Told(), "CM") << "no release has come";
+  EXPECT_EQ(shown.Events(), "CM") << "the release was lost";
   menu->popup({});
-  EXPECT_EQ(shown.Told(), "C") << "a menu is open";
+  EXPECT_EQ(shown.Events(), "C") << "menu opened";
   menu->actions().front()->trigger();
-  EXPECT_EQ(shown.Told(), "N");
+  EXPECT_EQ(shown.Events(), "N");
   menu->close();
-  shown.Told();
+  shown.Events();
   window->showMinimized();
-  EXPECT_EQ(shown.Told().substr(0, 1), "C") << "minimised";
+  EXPECT_EQ(shown.Events().substr(0, 1), "C") << "minimised";
   window->hide();
-  EXPECT_EQ(shown.Told().substr(0, 1), "C") << "hidden";
+  EXPECT_EQ(shown.Events().substr(0, 1), "C") << "hidden";
   window->close();
-  EXPECT_EQ(shown.Told(), "X");
+  EXPECT_EQ(shown.Events(), "X");
 }
 
-TEST(Window, TellsAssistiveTechnologyWhatStandsWhere) {
+TEST(Window, AnnouncesPiecesToAssistiveTechnology) {
   Desk desk(Board("g... .... .... .... .... .... .... bb.."));
   ShownWindow shown(desk);
   const QAccessibleInterface* board = QAccessible::queryAccessibleInterface(shown.view);
@@ -218,7 +220,7 @@ TEST(Window, TellsAssistiveTechnologyWhatStandsWhere) {
   EXPECT_EQ(board->childAt(place.center().x(), place.center().y()), board->child(5));
 }
 
-/// Shows a box, hands it over and closes it.
+/// Shows the box, calls `look` with it and its label, and closes it.
 void Look(const MessageBox& box, const std::function<void(QMessageBox&, QLabel&)>& look) {
   QTimer::singleShot(0, [&look] {
     auto* dialog = dynamic_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -228,15 +230,15 @@ void Look(const MessageBox& box, const std::function<void(QMessageBox&, QLabel&)
   ShowModal(box, nullptr);
 }
 
-// Run at each ratio that screens have, by QT_SCALE_FACTOR. This screen gets smaller with it.
-TEST(MessageBox, ShowsItsTextWhole) {
+// CTest runs this at several scales, set by QT_SCALE_FACTOR. A larger scale leaves less room.
+TEST(MessageBox, ShowsAllOfItsText) {
   Desk desk(StartPosition());
   desk.host.OnBox = [&](const MessageBox& box) {
     Look(box, [&](const QMessageBox& dialog, const QLabel& label) {
       const int width = label.fontMetrics().size(0, QString::fromStdString(box.Text)).width();
       const bool areLinesKept = label.text().contains(QRegularExpression("\\S\n\\S"));
-      EXPECT_EQ(areLinesKept, label.width() >= width) << "a line is broken again: " << box.Title;
-      EXPECT_TRUE(areLinesKept || dialog.screen()->size().width() < 800) << "there is room";
+      EXPECT_EQ(areLinesKept, label.width() >= width) << "a line was wrapped: " << box.Title;
+      EXPECT_TRUE(areLinesKept || dialog.screen()->size().width() < 800) << "joined despite room";
       EXPECT_EQ(dialog.icon(), QMessageBox::Information);
     });
   };
@@ -246,12 +248,12 @@ TEST(MessageBox, ShowsItsTextWhole) {
       EXPECT_EQ(box.icon(), QMessageBox::Critical);
       const QImage image = label.grab().toImage();
       EXPECT_EQ(Count(image, image.height() - 1, image.pixel(0, 0)), image.width())
-          << "the last of so many lines: " << label.text().count('g');
+          << "cut at the bottom; line breaks: " << label.text().count('g');
     });
   }
 }
 
-TEST(MessageBox, JoinsLinesThatAreTooWideForTheScreen) {
+TEST(MessageBox, JoinsBrokenLinesOnANarrowScreen) {
   const std::string wide(75, 'W');
   const std::string text = wide + "\r\nb\r\nc\r\n\r\nd\r\ne  f";
   Look({text, MessageIcon::Warning, ""}, [&](const QMessageBox& box, const QLabel& label) {

@@ -1,11 +1,11 @@
-"""Plays a short game under a Wayland compositor, at each of the scales: wayland_test.py PROGRAM."""
+"""Plays a short game under a Wayland compositor at three scales: wayland_test.py PROGRAM."""
 
 import json, os, pathlib, socket, struct, subprocess, sys, tempfile, time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
 from real_window import DOWN, UP, Game, until
 
-REGISTRY, SEAT, POINTER, KEYBOARD = 2, 3, 5, 7  # the objects; 4 makes 5, and 6 makes 7
+REGISTRY, SEAT, POINTER, KEYBOARD = 2, 3, 5, 7  # object ids; managers 4 and 6 create 5 and 7
 ACTS = {
     DOWN: [(POINTER, 2, 0x110, 1)],
     UP: [(POINTER, 2, 0x110, 0)],
@@ -14,17 +14,17 @@ ACTS = {
 }
 KEYMAP = b"""xkb_keymap { xkb_keycodes { include "evdev" }; xkb_types { include "complete" };
   xkb_compat { include "complete" }; xkb_symbols { include "pc+us" }; };\0"""
-# The file of a cursor that nobody sees, of one pixel: any other would be in the pictures.
+# A cursor file with one transparent pixel. Screenshots would show any other cursor.
 NO_CURSOR = struct.pack(
     "<4s16I", b"Xcur", 16, 0x10000, 1, 0xFFFD0002, 24, 28, 36, 0xFFFD0002, 24, 1, 1, 1, 0, 0, 0, 0
 )
 
 
 class Hand:
-    """A mouse and a keyboard, by as little of the wire protocol as makes them."""
+    """A virtual mouse and keyboard, with the few Wayland requests that they need."""
 
     def __init__(self, path):
-        self.compositor, self.told = socket.socket(socket.AF_UNIX), b""
+        self.compositor, self.received = socket.socket(socket.AF_UNIX), b""
         self.compositor.connect(path)
         self.send(1, 1, REGISTRY)
         self.bind(b"wl_seat\0", SEAT)
@@ -39,11 +39,11 @@ class Hand:
             self.send(KEYBOARD, 0, 1, len(KEYMAP), files=[keymap.fileno()])
 
     def bind(self, interface, name):
-        """Names a global object, once the compositor has told of its number and interface."""
-        while interface not in self.told:
-            self.told += self.compositor.recv(4096)
-        at = self.told.index(interface)
-        number, length = struct.unpack("=II", self.told[at - 8 : at])
+        """Binds a global to an id, once the compositor has announced it."""
+        while interface not in self.received:
+            self.received += self.compositor.recv(4096)
+        at = self.received.index(interface)
+        number, length = struct.unpack("=II", self.received[at - 8 : at])
         self.send(REGISTRY, 0, number, length, interface, 1, name)
 
     def send(self, target, request, *words, files=()):
@@ -54,11 +54,11 @@ class Hand:
     def act(self, device, request, *words):
         self.send(device, request, time.monotonic_ns() // 10**6 % 2**32, *words)
         if device == POINTER:
-            self.send(device, 4)  # a frame: what has been told belongs together
+            self.send(device, 4)  # frame: ends this group of events
 
 
 class WaylandGame(Game):
-    """Places are in the compositor's units at any scale, pictures in the pixels of its screen."""
+    """Geometry is in the compositor's logical units, screenshots are in physical pixels."""
 
     def __init__(self, program, scale, width=800, height=640):
         self.scale, self.pixels, self.looked = scale, 0, 0
@@ -81,9 +81,9 @@ class WaylandGame(Game):
             "WLR_BACKENDS": "headless",
             "WLR_RENDERER": "pixman",
         }
-        os.chmod(folder, 0o777)  # for sway refuses to be root
+        os.chmod(folder, 0o777)  # sway refuses to run as root
         user = {} if os.getuid() else {"user": 65534, "group": 65534, "extra_groups": []}
-        # Not atomic: else a press soon after another window's end would take hold of the frame.
+        # With atomic layout changes, a press just after a window has closed would hit the frame.
         self.server = self.start("sway", "-Dnoatomic", "--config", folder + "/config", **user)
         until(
             "the compositor",
@@ -98,15 +98,15 @@ class WaylandGame(Game):
             nodes += node["nodes"] + node["floating_nodes"]
             outer, inner = node["rect"], node.get("window_rect")
             if node["name"] == title:
-                assert node["deco_rect"]["y"] >= 0, "the title bar is above the screen"
+                assert node["deco_rect"]["y"] >= 0, "the title bar is off the screen"
                 left, top = outer["x"] + inner["x"], outer["y"] + inner["y"]
                 if is_splash in (None, inner["width"] > 2 * inner["height"]):
                     return node["id"], left, top, inner["width"], inner["height"]
 
     def rows(self, *place):
-        if time.monotonic() > self.looked + 0.01:  # a board is read by 64 looks
-            told = subprocess.check_output(["grim", "-t", "ppm", "-"], env=self.env)
-            _, size, _, seen = told.split(b"\n", 3)
+        if time.monotonic() > self.looked + 0.01:  # reading a board calls this 64 times
+            ppm = subprocess.check_output(["grim", "-t", "ppm", "-"], env=self.env)
+            _, size, _, seen = ppm.split(b"\n", 3)
             self.width, self.memory = int(size.split()[0]), bytearray(len(seen) // 3 * 4)
             for colour in range(3):
                 self.memory[colour::4] = seen[2 - colour :: 3]
@@ -125,14 +125,14 @@ class WaylandGame(Game):
 
 def play(game):
     game.play_to("splash")
-    until("its border", lambda: (255, 0, 0) in game.colours(*game.splash))
+    until("the border of the splash", lambda: (255, 0, 0) in game.colours(*game.splash))
     game.play_to("turn")
     for step in (10, DOWN), [game.middle(10, 9, -9)], [game.middle(10, 20, -20)], [14]:
         shown = game.picture()
         game.do(*step)
         until("the outline", lambda: game.picture() != shown)
     game.do("key Escape")
-    until("no trace", lambda: game.picture() == game.at_rest)
+    until("the start picture", lambda: game.picture() == game.at_rest)
     game.do(UP)
     game.play_to("last_blink")
     game.do((game.left + 20, game.top - 8), DOWN, UP)
@@ -146,7 +146,7 @@ def play(game):
 for scale, *room in [1], [1.5], [2, 960, 540]:
     with WaylandGame(sys.argv[1], scale, *room) as game:
         play(game)
-for stage in "splash", "help", "blink":  # at which the display is lost
+for stage in "splash", "help", "blink":  # the display is lost at each of these
     with WaylandGame(sys.argv[1], 1) as game:
         game.play_to(stage)
         game.server.kill()

@@ -1,5 +1,5 @@
-"""The built program on an X server of its own, with a window manager. What the player sees is read
-from the memory of the screen, what he does is done by xdotool, and nothing sleeps for a state."""
+"""Runs the built program on its own X server with a window manager. Pixels are read from the
+server's memory. xdotool sends the input. Tests poll for each state and never sleep for it."""
 
 import mmap, os, pathlib, re, signal, struct, subprocess, sys, tempfile, time
 
@@ -11,23 +11,23 @@ DOWN, UP = "mousedown 1", "mouseup 1"
 
 
 def until(what, probe, seconds=8):
-    """Waits for `probe` to find something, and gives it."""
+    """Polls `probe` until its result is true, and returns that. Fails after `seconds`."""
     end = time.monotonic() + seconds
     while not (found := probe()):
-        assert time.monotonic() < end, f"not within {seconds} s: {what}"
+        assert time.monotonic() < end, f"{what}: not seen within {seconds} s"
         time.sleep(0.005)
     return found
 
 
 class Screen:
     def __init__(self, size="1600x1200x24"):
-        self.size, self.teller = size, None
+        self.size, self.settings_daemon = size, None
         self.folder = tempfile.TemporaryDirectory()
-        # A message bus leaves a trace at home, by a launcher of its own or by this one.
+        # Starting a message bus creates ~/.dbus. Where no dbus-launch is installed, this one does.
         bus = pathlib.Path(self.folder.name, "dbus-launch")
         bus.write_text("#!/bin/sh\nmkdir ~/.dbus")
         bus.chmod(0o755)
-        # Nothing of the desktop that the tests run on may shine through. Leaks are Qt's, not ours.
+        # A fresh environment, independent of the user's desktop. Leaks are Qt's: not checked.
         self.env = {
             "PATH": self.folder.name + ":" + os.environ["PATH"],
             "HOME": self.folder.name,
@@ -37,14 +37,14 @@ class Screen:
         self.open()
 
     def open(self):
-        number, told = os.pipe()
-        command = f"Xvfb -displayfd {told} -fbdir {self.folder.name} -nocursor -noreset -screen 0"
-        self.server = self.start(*command.split(), self.size, pass_fds=[told])
-        os.close(told)
-        with open(number) as line:
+        reader, writer = os.pipe()
+        command = f"Xvfb -displayfd {writer} -fbdir {self.folder.name} -nocursor -noreset -screen 0"
+        self.server = self.start(*command.split(), self.size, pass_fds=[writer])
+        os.close(writer)
+        with open(reader) as line:
             self.env["DISPLAY"] = ":" + line.readline().strip()
         until("the X server", lambda: self.run("xdotool", "getdisplaygeometry"))
-        # Any sooner the manager may lose a window: it says that it manages before it does.
+        # openbox may miss windows opened before it runs its startup command.
         self.start("openbox", "--startup", f"touch {self.folder.name}/managed")
         until("the window manager", lambda: os.path.exists(self.folder.name + "/managed"))
         with open(self.folder.name + "/Xvfb_screen0", "rb") as file:  # in the format of xwd
@@ -53,7 +53,7 @@ class Screen:
         self.width, self.pixels = header[4], header[0] + 12 * header[19]
 
     def start(self, *command, stderr=subprocess.DEVNULL, **more):
-        """Starts a program that ends with this one, in whatever way this one ends."""
+        """Starts a program. The kernel kills it when this process ends."""
         return subprocess.Popen(
             ["setpriv", "--pdeathsig", "KILL", *command],
             env=self.env,
@@ -66,20 +66,22 @@ class Screen:
         return subprocess.run(command, env=self.env, capture_output=True, text=True).stdout
 
     def set_scale(self, scale):
-        """Tells all programs the scale of the desktop, those that run as well."""
+        """Sets the scale of the desktop. Running programs follow it, too."""
         settings, dots = pathlib.Path(self.folder.name, "settings"), int(scale * 96 * 1024)
         settings.write_text(f"Xft/DPI {dots}\n")
-        if self.teller:
-            self.teller.send_signal(signal.SIGHUP)
+        if self.settings_daemon:
+            self.settings_daemon.send_signal(signal.SIGHUP)
         else:
-            self.teller = self.start("xsettingsd", "-c", settings)
+            self.settings_daemon = self.start("xsettingsd", "-c", settings)
         until("the scale", lambda: f"DPI {dots}" in self.run("dump_xsettings"))
 
     def window(self, title, is_splash=None):
-        """A visible window of this title: its name, left, top, width and height."""
+        """The id, left, top, width and height of a visible window; None if there is none.
+
+        The splash and the main window have the same title. The splash is the wide one."""
         for name in self.run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split():
-            told = self.run("xwininfo", "-id", name)
-            place = re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", told)
+            text = self.run("xwininfo", "-id", name)
+            place = re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", text)
             if place and is_splash in (None, int(place[2]) > 2 * int(place[3])):
                 return name, *map(int, place)
 
@@ -116,7 +118,7 @@ class Game(Screen):
         return pathlib.Path(path + ".xwd").write_bytes(self.memory) and path + ".xwd"
 
     def stages(self):
-        """Plays from the start to the end of the computer's first turn, and tells each stage."""
+        """Plays to the end of the computer's first turn. Yields the name of each stage reached."""
         self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran", True))
         yield "splash"
         until("the main window", lambda: self.window(" Velmoran", False))
@@ -125,7 +127,7 @@ class Game(Screen):
         yield "help"
         self.do("key Return")
         until(
-            "the start position, with no grey left of the help",
+            "the start position without the help box",
             lambda: self.board() == START and max(map(min, self.colours(*self.inside))) < 3,
         )
         self.at_rest = self.picture()
@@ -148,11 +150,11 @@ class Game(Screen):
         yield "last_blink"
 
     def measure(self):
-        """Finds the board, which is below the menu bar and may be larger or smaller than 520."""
+        """Reads the geometry of the board, below the menu bar. Its side may differ from 520."""
         self.name, self.left, top, self.side, height = self.window(" Velmoran", False)
         self.top = top + height - self.side
         self.client_area = self.left, self.top, self.side, self.side
-        # Without the outermost pixels: at a fractional ratio they may be mixed with the menu bar.
+        # Without the edge: at a fractional scale its pixels may blend with the menu bar.
         self.inside = self.left + 1, self.top + 1, self.side - 2, self.side - 2
 
     def play_to(self, wanted):
@@ -160,7 +162,7 @@ class Game(Screen):
             pass
 
     def middle(self, square, right=0, down=0):
-        """The point in the middle of a square, or so many pixels of the form beside it."""
+        """The middle of a square on the screen, shifted by pixels of the unscaled form."""
         row, place = divmod(square - 1, 4)
         scale = self.side / BOARD
         return (
@@ -174,7 +176,7 @@ class Game(Screen):
         return PIECES.get((ground, disc), "?")
 
     def flashing(self):
-        """The square that is lit up now, or None. One point of each square tells, so it is quick."""
+        """The highlighted square, or None. Reads one pixel a square, to be fast."""
         lit = (n for n in range(1, 33) if self.colours(*self.middle(n, -30, -30)) == {GREEN})
         return next(lit, None)
 
@@ -185,13 +187,13 @@ class Game(Screen):
         return list(self.rows(*self.client_area))
 
     def do(self, *steps):
-        """Moves to squares and points of the screen; all else are words of xdotool's."""
+        """Moves the pointer to squares (int) and points (tuple). A string is xdotool commands."""
         points = (self.middle(step) if isinstance(step, int) else step for step in steps)
         words = (at if isinstance(at, str) else "mousemove {} {}".format(*at) for at in points)
         return self.run("xdotool", *" ".join(words).split())
 
     def move(self, *squares):
-        """Tries until the piece follows, which it does from the end of the computer's turn on."""
+        """Drags until the piece moves. It does not move before the computer's turn has ended."""
         until(
             f"the move {squares}",
             lambda: self.piece(squares[-1]) in "bB"
@@ -199,7 +201,7 @@ class Game(Screen):
         )
 
     def ended(self):
-        """Waits for the process to end. Returns its exit code, the seconds and the lines of errors."""
+        """Waits for the process to end. Returns exit code, seconds waited and lines of stderr."""
         start = time.monotonic()
         until("the end", lambda: self.process.poll() is not None)
         self.errors.seek(0)
