@@ -83,7 +83,7 @@ class FormAccessible : public QAccessibleWidget {
 
  private:
   std::vector<QAccessible::Id> children;
-  std::vector<const Control*> described;  // by the children
+  std::vector<const Control*> described;  // in the order of `children`
 };
 
 QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {

@@ -54,7 +54,7 @@ void DesktopHost::ShowForms(std::span<Form* const> forms, const Drag& drag) {
 }
 
 void DesktopHost::End() {
-  // No destructors: this may come from any depth, below a message box or a wait.
+  // No destructors: the call may come from any depth, inside a message box or a wait.
   std::quick_exit(0);
 }
 

@@ -9,7 +9,7 @@
 #include "desktop/form_window.h"
 #include "toolkit/host.h"
 
-/// The host of the real game: Qt 6 Widgets. A form that it shows must live until it is closed.
+/// The desktop's host, on Qt 6 Widgets. Its forms must outlive it.
 class DesktopHost : public Host {
  public:
   DesktopHost();
@@ -27,8 +27,8 @@ class DesktopHost : public Host {
   FormWindow& WindowOf(Form& form);
 
   QElapsedTimer clock;
-  QTimer alarm;                   // armed for the instant waited for; off in an idle game
-  QEventLoop* waiting = nullptr;  // the wait under way
+  QTimer alarm;                   // ends a wait at its instant; off while there is none
+  QEventLoop* waiting = nullptr;  // of the present wait
   std::vector<std::unique_ptr<FormWindow>> windows;
   const Form* frontmost = nullptr;
 };

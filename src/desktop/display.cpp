@@ -13,10 +13,10 @@
 
 namespace {
 
-constexpr int LeastDepth = 15;  // bits a pixel; on less Qt draws nothing
+constexpr int LeastDepth = 15;  // bits per pixel; Qt draws nothing on less
 
-/// Ends the program with one line, even if two threads come to know at once: on Wayland Qt reads
-/// from the display in a thread of its own.
+/// Ends the program with one line. Two threads may get here at once, because on Wayland Qt reads
+/// from the display in a thread of its own. The second one waits for the end.
 [[noreturn]] void ExitWith(const QString& reason) {
   static std::mutex onlyOne;
   onlyOne.lock();
@@ -24,7 +24,7 @@ constexpr int LeastDepth = 15;  // bits a pixel; on less Qt draws nothing
   std::_Exit(1);
 }
 
-/// What has been said so far of why no window can be opened. A second platform may still do.
+/// Why no window can be opened, as far as Qt has said. A second platform plugin may still work.
 QString& Reasons() {
   static QString reasons;
   return reasons;
@@ -36,7 +36,7 @@ QString& Reasons() {
 
 void HandleQtMessage(QtMsgType, const QMessageLogContext&, const QString& message) {
   if (message.contains("connection broke")) ExitDisplayLost();
-  // Qt 6.8 says so of its windows on Wayland at scales like 1.5, and has just set it straight.
+  // Qt 6.8 prints this on Wayland at scales like 1.5, after it has corrected the value itself.
   if (message.contains("device pixel ratio value was stale")) return;
   std::fprintf(stderr, "%s\n", qPrintable(message));
 }
@@ -45,20 +45,20 @@ void HandleQtMessageAtStart(QtMsgType type, const QMessageLogContext& context,
                             const QString& message) {
   if (type == QtDebugMsg || message.contains("connection broke"))
     return HandleQtMessage(type, context, message);
-  // Its last words, of all the plugins that there are, are no reason.
+  // The last message only lists the plugins. It is no reason.
   if (!message.contains("no Qt platform plugin could be initialized"))
     Reasons() += (Reasons().isEmpty() ? ": " : "; ") + message.simplified();
   if (type == QtFatalMsg) ExitWithReasons();
 }
 
-/// Its library would print this by itself, past Qt.
+/// The Wayland library would print this itself, without Qt.
 void HandleWaylandMessage(const char* format, std::va_list values) {
   qWarning("%s", qPrintable(QString::vasprintf(format, values).trimmed()));
 }
 
 int HandleXlibError(void*) { ExitDisplayLost(); }
 
-/// A function of a library that Qt may use; null where there is none.
+/// A function of a library that Qt may have loaded. Null if there is none.
 template <typename Function>
 Function* Find(const char* library, int mode, const char* name) {
   void* loaded = dlopen(library, RTLD_LAZY | mode);
@@ -81,7 +81,7 @@ void ReportLostDisplay() {
   if (screen->depth() < LeastDepth)
     ExitWith(QString("a display of %1 bits has too few colours").arg(screen->depth()));
   qInstallMessageHandler(HandleQtMessage);
-  // On X11 it may be Xlib that notices first. Qt's plugin has loaded it then, and only then.
+  // On X11 Xlib may notice first. Qt's plugin has loaded it if it is needed.
   using Handler = int (*)(void* display);
   const char* setter = "XSetIOErrorHandler";
   if (auto* set = Find<Handler(Handler)>("libX11.so.6", RTLD_NOLOAD, setter)) set(HandleXlibError);

@@ -1,8 +1,7 @@
 #pragma once
 
-// A display that cannot be reached or drawn on, or that is lost, ends the program with one line on
-// standard error and exit code 1. Left alone, Qt, Xlib and libwayland tell it at length, and Qt
-// aborts.
+// If the display cannot be opened or drawn on, or if it is lost, the program ends with one line on
+// standard error and exit code 1. By default Qt, Xlib and libwayland print more, and Qt aborts.
 
 /// Call it before the application is created. The line gives the reasons that Qt gave.
 void ReportMissingDisplay();

@@ -29,7 +29,7 @@ FormView::FormView(const Form& viewedForm) : form(viewedForm), shown(viewedForm)
   SetScale(1);
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
-  // Otherwise the menu bar would keep the keyboard once a menu has been closed.
+  // Otherwise the menu bar keeps the focus after a menu has been closed.
   setFocusPolicy(Qt::ClickFocus);
 }
 
@@ -68,7 +68,7 @@ void FormView::paintEvent(QPaintEvent* event) {
   if (const auto& outline = shown.Outline()) PaintDragOutline(painter, PixelRect(*outline));
 }
 
-/// From the form's own pixels to those of the view.
+/// Converts from the form's own pixels to those of the view.
 QTransform FormView::ToView() const {
   return QTransform::fromScale(width() / ToPixels(form.Width), height() / ToPixels(form.Height));
 }

@@ -10,16 +10,16 @@ class FormView : public QWidget {
  public:
   explicit FormView(const Form& viewedForm);
 
-  /// Compares the controls and the drag with what was painted last, and repaints what differs.
+  /// Repaints what has changed since the last call, the outline of the drag included.
   void Refresh(const Drag& drag);
 
-  /// Shows the whole form in so much of its own size: above 0, at most 1.
+  /// Shows the whole form smaller, by a factor above 0 and at most 1.
   void SetScale(double scale);
 
-  /// The point of the form under a point of the view.
+  /// Converts a point of the view, in pixels, to a point of the form, in twips.
   Point PointAt(QPointF pixels) const;
 
-  /// The pixels of the view that a place on the form covers.
+  /// Converts a place on the form, in twips, to pixels of the view.
   QRectF PixelsOf(const Rect& place) const;
 
   const Form& ViewedForm() const { return form; }

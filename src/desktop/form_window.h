@@ -8,16 +8,16 @@
 #include "desktop/input_filter.h"
 #include "desktop/placement.h"
 
-/// A form on the screen. The form must outlive it, and so must all that its sink refers to.
+/// The window of a form. The form must outlive it, and so must everything that its sink refers to.
 class FormWindow {
  public:
-  /// Builds and shows the window, as its `Placement` has it. `sink` takes its raw input.
+  /// Builds, places and shows the window. `sink` is called with its raw input.
   FormWindow(Form& shownForm, const std::function<void(const InputEvent&)>& sink);
 
-  /// Brings the window up to date.
+  /// Repaints what has changed since the last call.
   void Refresh(const Drag& drag) { view->Refresh(drag); }
 
-  /// Brings the window in front of the others.
+  /// Brings the window to the front and gives it the focus.
   void Raise();
 
   QWidget* Widget() const { return window.get(); }
@@ -27,7 +27,7 @@ class FormWindow {
   void BuildFramed(const std::function<void(const InputEvent&)>& sink);
 
   Form& form;
-  FormView* view = nullptr;  // is the window itself where there is no frame
+  FormView* view = nullptr;  // the window itself if the form has no frame
   InputFilter filter;        // outlives the window that it watches
   std::unique_ptr<QWidget> window;
   std::unique_ptr<Placement> placement;

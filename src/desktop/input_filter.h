@@ -6,14 +6,14 @@
 #include "desktop/form_view.h"
 #include "toolkit/buttons.h"
 
-/// Translates what happens to a window into the raw input of its form. It must outlive the window,
-/// and the form must outlive both.
+/// Translates the events of a window into raw input of its form. It must outlive the window, and
+/// the form must outlive both.
 class InputFilter : public QObject {
  public:
   InputFilter(Form& inputForm, std::function<void(const InputEvent&)> inputSink)
       : form(inputForm), sink(std::move(inputSink)) {}
 
-  /// `view` is the client area, `window` the whole; they may be the same.
+  /// Starts to filter. `view` is the client area of `window`; they may be the same widget.
   void Watch(FormView* view, QObject* window);
 
   bool eventFilter(QObject* watched, QEvent* event) override;

@@ -11,12 +11,12 @@
 
 namespace {
 
-// Longer lines are paragraphs, which the box wraps by itself: but only if it gets wider than 500
-// pixels. If not it shows them in one line each, cut.
+// Longer lines are paragraphs, which the box has to wrap. It only does so if it gets wider than 500
+// pixels; otherwise it cuts them.
 constexpr int LongestBrokenLine = 80;
 constexpr double ParagraphWidth = 500;
 
-/// The widest that Qt lets a box be; what does not fit in there is cut.
+/// The width to which Qt limits a box. What does not fit is cut.
 int WidestBox(int screenWidth) {
   return screenWidth <= 1024 ? screenWidth : std::min(screenWidth - 480, 1000);
 }
@@ -52,14 +52,15 @@ int WidthFor(const QString& text, const QFontMetricsF& metrics) {
   return static_cast<int>(std::ceil(width));
 }
 
-/// The box would wrap lines over 500 pixels, or over half of a small screen, and so break lines
-/// again that were broken by hand. Only where the screen is narrower than they are it has to.
+/// Makes the label wide enough for the lines that were broken by hand. By default the box wraps at
+/// 500 pixels or half of a small screen, and so would break them again. If the screen is too narrow
+/// for them, they are joined instead.
 void KeepBrokenLines(QMessageBox& dialog, int room) {
   auto* label = dialog.findChild<QLabel*>("qt_msgbox_label");
   if (!label) return;
   // At a scale like 1.5 the last line's letters reach below the height that the label asks for.
   label->setContentsMargins(0, 0, 0, 2);
-  label->setWordWrap(true);  // as it will be, so that what stands around it can be measured
+  label->setWordWrap(true);  // as Qt does later, so that the space around it can be measured
   const int around = dialog.layout()->totalMinimumSize().width() - label->minimumSizeHint().width();
   const int width = WidthFor(dialog.text(), QFontMetricsF(label->font()));
   label->setMinimumWidth(std::min(width, room - around));

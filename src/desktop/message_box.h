@@ -4,6 +4,6 @@
 
 #include "toolkit/host.h"
 
-/// Shows a modal message over the window and returns when the user has closed it: by its button,
-/// Enter, Escape or the box's own close.
+/// Shows a modal message over `window`, or by itself if that is null. Returns when the user has
+/// closed it with OK, Enter, Escape or the close button of its frame.
 void ShowModal(const MessageBox& box, QWidget* window);

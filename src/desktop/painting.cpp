@@ -10,8 +10,8 @@ namespace {
 
 QPointF ToPoint(const std::pair<double, double>& corner) { return {corner.first, corner.second}; }
 
-/// Smoothing would dim the outermost pixels of a disc, which its box touches only in their middle.
-/// So it is drawn a hair too large and cut off at the box.
+/// Antialiasing would dim the outermost pixels of a disc, where its edge touches the box. So it is
+/// drawn slightly too large and clipped to the box.
 void PaintEllipse(QPainter& painter, const QRectF& box) {
   constexpr double Hair = 0.01;
   painter.save();
@@ -22,7 +22,7 @@ void PaintEllipse(QPainter& painter, const QRectF& box) {
 
 void PaintShape(QPainter& painter, const PictureShape& shape) {
   const QColor fill = ToQColor(shape.Fill);
-  // Round and slanted edges are smoothed. Straight ones are not: at a scale like 1.25
+  // Round and slanted edges are antialiased. Straight ones are not: at a scale like 1.25
   // antialiasing shows the background along the seams.
   painter.setRenderHint(QPainter::Antialiasing, shape.Outline != PictureShape::Kind::Rectangle);
   painter.setPen(Qt::NoPen);
@@ -51,7 +51,7 @@ void PaintCaption(QPainter& painter, const Control& control) {
     families << QString::fromStdString(family);
   }
   font.setFamilies(families);
-  // The form's points are those of 96 dots per inch, whatever the screen says of itself.
+  // The form's points are for 96 dots per inch, whatever the screen's own value is.
   font.setPixelSize(control.Font.Points * 96 / 72);
   const QString caption = QString::fromStdString(control.Caption);
   const double room = ToPixels(CaptionRoom(control));

@@ -5,17 +5,16 @@
 
 #include "toolkit/control.h"
 
-// Controls and pictures as strokes of a painter. Everything is drawn as vectors at the scale of the
-// screen, so nothing is ever a scaled bitmap.
+// Paints controls and pictures as vectors at the scale of the screen: no bitmap is ever scaled.
 
 constexpr double ToPixels(int twips) { return static_cast<double>(twips) / TwipsPerPixel; }
 
 QColor ToQColor(Color color);
 
-/// A place in the form's own pixels.
+/// Converts a place from twips to the form's own pixels.
 QRectF PixelRect(const Rect& place);
 
-/// Paints a control as it stands, in the form's own pixels. Nothing of it lies outside its place.
+/// Paints a control in the form's own pixels, never outside its place.
 void PaintControl(QPainter& painter, const Control& control);
 
 /// Paints a picture over the whole rectangle.
@@ -24,5 +23,5 @@ void PaintPicture(QPainter& painter, const Picture& picture, const QRectF& place
 /// Paints the outline that follows the pointer in a drag, equally thick on all sides.
 void PaintDragOutline(QPainter& painter, const QRectF& place);
 
-/// A picture as a window icon, in the usual sizes.
+/// A picture as a window icon, painted in five sizes from 16 to 128.
 QIcon MakeIcon(const Picture& picture);

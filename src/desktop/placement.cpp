@@ -15,8 +15,8 @@ namespace {
 
 constexpr double LeastScale = 0.1;  // a screen may report no room at all
 
-// Room for a frame of unknown size: on Wayland no compositor reports the one that it draws. Below
-// the window, too, for it may be centred without its title bar.
+// Room for a frame of unknown size: on Wayland compositors do not report the frame that they draw.
+// There is room below, too, because a compositor may centre the window without its title bar.
 constexpr QMargins UsualFrame(4, 32, 4, 32);
 
 int MenuHeight(const QWidget& window) {
@@ -24,8 +24,8 @@ int MenuHeight(const QWidget& window) {
   return framed ? framed->menuBar()->sizeHint().height() : 0;
 }
 
-/// What Qt 6.4 omits when the scale of a screen changes, or a window comes to a screen of another
-/// one: the windows and the surfaces that they are painted on stay as large as before.
+/// Resizes all windows and their backing stores for the present scale. Qt 6.4 does not, when the
+/// scale of a screen changes or a window moves to a screen of another scale.
 void FollowScale() {
   for (QWidget* shown : QApplication::allWidgets()) {
     shown->update();
@@ -40,7 +40,7 @@ void FollowScale() {
 
 Placement::Placement(QWidget& placedWindow, FormView& placedView)
     : window(placedWindow), view(placedView) {
-  window.winId();  // from here on there is a handle
+  window.winId();  // creates the handle
   handle = window.windowHandle();
   // Queued, as the new scale arrives in several events.
   connect(handle, &QWindow::screenChanged, this, &Placement::WatchScreen, Qt::QueuedConnection);
@@ -54,12 +54,12 @@ Placement::Placement(QWidget& placedWindow, FormView& placedView)
 
 bool Placement::eventFilter(QObject*, QEvent* event) {
   const bool frameMayBeKnown = event->type() == QEvent::Expose || event->type() == QEvent::Move;
-  // Only once: later it is the user who moves the window, and may.
+  // Only once: later moves are the user's, and stay.
   if (frameMayBeKnown && frame.isNull() && !handle->frameMargins().isNull()) KeepInReach();
   return false;
 }
 
-/// The user may drag the window to another screen: it may change its size there, but not its place.
+/// On another screen the window may change its size, but it stays where the user has put it.
 void Placement::WatchScreen() {
   disconnect(roomChanged);
   roomChanged =
@@ -68,14 +68,14 @@ void Placement::WatchScreen() {
   FollowScale();
 }
 
-/// The desktop's scale may have changed, too. Then only the handle knows where the window is.
+/// The scale may have changed, too. Then only the handle has the right place of the window.
 void Placement::FollowRoom() {
   window.setGeometry({handle->position(), window.size()});
   FollowScale();
   KeepInReach();
 }
 
-/// Makes the window as large as it can be, about its own middle, and moves it as little as needed.
+/// Makes the window as large as it can be around its middle, and moves it as little as possible.
 void Placement::KeepInReach() {
   QRect place = window.geometry();
   Fit();
@@ -98,7 +98,7 @@ void Placement::Fit() {
   window.adjustSize();
 }
 
-/// Where the client area may be.
+/// The available geometry of the screen without the frame, where the client area may be.
 QRect Placement::Room() const {
   const bool hasUnknownFrame = view.ViewedForm().HasFrame && frame.isNull();
   return window.screen()->availableGeometry().marginsRemoved(hasUnknownFrame ? UsualFrame : frame);

@@ -5,8 +5,8 @@
 
 #include "desktop/form_view.h"
 
-/// Keeps a window in reach: as large as its form where the screen has room for it, else smaller as
-/// a whole, and with its top left corner on the part of the screen that is free for windows.
+/// Keeps a window in reach. The window is as large as its form, or smaller as a whole if the screen
+/// has no room for it. Its top left corner is inside the available geometry of the screen.
 class Placement : public QObject {
  public:
   /// Places the window, whose client area is `view`, in the centre of its screen. Both must outlive
