@@ -20,7 +20,7 @@ struct Rect {
   bool operator==(const Rect&) const = default;
 };
 
-/// Whether the point lies in the rectangle. The right and the bottom edge belong to the neighbour.
+/// Whether the point is in the rectangle. Its right and bottom edges are outside.
 constexpr bool Contains(const Rect& rect, Point point) {
   return point.X >= rect.Left && point.X < rect.Left + rect.Width && point.Y >= rect.Top &&
          point.Y < rect.Top + rect.Height;

@@ -39,7 +39,7 @@ struct MessageBox {
   std::string Title;
 };
 
-/// The drag under way, for the outline that follows the pointer. No drag: `Source` is empty.
+/// The present drag, for the outline that follows the pointer. `Source` is null if there is none.
 struct Drag {
   const Form* Window = nullptr;
   const Control* Source = nullptr;
@@ -69,8 +69,8 @@ class Host {
   /// other input.
   virtual void ShowMessageBox(const MessageBox& box) = 0;
 
-  /// Brings the screen up to date. `forms` holds the loaded forms, the frontmost first; those that
-  /// are not `Visible` are not to be seen yet. Called after each event and before each wait, also
+  /// Updates the screen. `forms` holds the loaded forms, the frontmost first. A form that is not
+  /// `Visible` is not shown yet. Called after each event and before each wait, also
   /// when nothing has changed: `ShownForm` finds the changes.
   virtual void ShowForms(std::span<Form* const> forms, const Drag& drag) = 0;
 

@@ -7,19 +7,19 @@
 /// The largest whole number not above `value`.
 int Int(double value);
 
-/// The one sequence of random numbers of a program.
+/// The random sequence of a program. There is only one.
 class Random {
  public:
   /// The next value: at least 0, below 1, in steps of 2^-53.
   double Rnd();
 
-  /// Draws the next value and makes of it a whole number from 0 to `count` - 1.
+  /// Draws a value and turns it into a whole number from 0 to `count` - 1. `count` is above 0.
   int Draw(int count) { return Int(Rnd() * count); }
 
   /// Starts the sequence over: equal seeds give equal values from here on.
   void Randomize(double seed);
 
-  /// Hands out these values instead of the generator's, whatever the seed. Empty: the generator's.
+  /// If this is set, its values replace the generator's, whatever the seed.
   std::function<double()> Script;
 
   /// How many values have been drawn so far.

@@ -19,6 +19,7 @@ struct Look {
   bool operator==(const Look&) const = default;
 };
 
+/// The present look of a control.
 Look LookOf(const Control& control);
 
 /// The place of the outline of the dragged image on the form. It keeps its distance from the

@@ -57,7 +57,7 @@ void Toolkit::SetEnabled(TimerControl& timer, bool enabled) {
 
 void Toolkit::End() {
   host.End();
-  std::abort();  // g++ ignores [[noreturn]] of a virtual function
+  std::abort();  // never reached: without it g++ warns that this function returns
 }
 
 bool Toolkit::DeliverTick() {
@@ -97,7 +97,7 @@ bool Toolkit::DeliverInput() {
   return true;
 }
 
-/// The timer that ticks next, whether it is due or not; empty when none is on.
+/// The timer that ticks next, due or not. Null if none is on.
 TimerControl* Toolkit::NextTimer() const {
   TimerControl* next = nullptr;
   for (const Form* form : forms) {

@@ -30,7 +30,7 @@ class Toolkit {
   /// The form must live until it is closed.
   void Show(Form& form);
 
-  /// Brings a form that is shown to the front.
+  /// Brings a form to the front. Does nothing if it has not been shown or is closed.
   void ZOrder(Form& form);
 
   /// Closes a form: runs its `Unload` and stops its timers. Closing the last form ends the program.
@@ -42,7 +42,7 @@ class Toolkit {
   /// Seconds since midnight, with a fraction.
   double Timer() { return host.SecondsSinceMidnight(); }
 
-  /// Stops the program at once, from any depth.
+  /// Ends the program at once, from any depth of calls.
   [[noreturn]] void End();
 
   Random random;

@@ -2,7 +2,7 @@
 
 namespace {
 
-// Lines end where the boxes are to break them; paragraphs without breaks are wrapped by the box.
+// Boxes keep these line breaks, and wrap paragraphs that have none.
 
 constexpr const char* ControlsText =
     "You control the blue checkers, and you move first.  To move,\r\n"
