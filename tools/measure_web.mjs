@@ -1,9 +1,9 @@
-// Measures what the page costs in both browsers: measure_web.mjs [RUNS], with the folder that
-// tests/web/run has built in as BUILD. Printed are medians of runs made in turn: milliseconds from
-// navigation to the first thing painted, of the page and of an empty one of the same size;
-// microseconds from a pointer event to the changed outline, in a drag, for steps of a pixel and of
-// a square; milliseconds of processor time, of all processes of the browser,
-// over 10 s at rest (beside an empty page) and over a computer's turn; KiB of the program's memory.
+// Measures what the page costs in Chromium and Firefox: measure_web.mjs [RUNS]. BUILD is the folder
+// in which tests/web/run has built it. Prints medians of runs made in turn: milliseconds from
+// navigation to the first paint, also of an empty page of the same size; microseconds from an event
+// of the pointer to the changed outline in a drag, for steps of a pixel and of a square;
+// milliseconds of processor time of all browser processes in 10 s at rest, also with an empty page,
+// and in a computer's turn; KiB of the program's memory.
 import {execFileSync} from 'node:child_process';
 import {readFileSync, statSync, writeFileSync} from 'node:fs';
 import {pathToFileURL} from 'node:url';
@@ -21,7 +21,7 @@ const url = file => pathToFileURL(file).href;
 const rest = milliseconds => new Promise(done => setTimeout(done, milliseconds));
 const median = values => values.sort((a, b) => a - b)[Math.floor(values.length / 2)];
 
-/// Milliseconds of processor time that a process and all that it has started have taken.
+/// The processor time of a process and all its descendants, in milliseconds.
 function processorTime(root) {
   const parents = new Map(
     execFileSync('ps', ['-eo', 'pid=,ppid='])
@@ -102,7 +102,7 @@ async function measure(name) {
       }
       return ((performance.now() - start) / times) * 1000;
     };
-    // The least of some rounds: the first ones still compile, and others work on this machine.
+    // The least of several rounds: the first ones still compile, and the machine may be busy.
     const leastOf = step => Math.min(...Array.from({length: 8}, () => costOf(step))).toFixed(0);
     send('pointerdown', 1, side / 2);
     const costs = [leastOf(1), leastOf(side)].join(' and ');

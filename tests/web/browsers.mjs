@@ -1,4 +1,4 @@
-// The folder of the page, as BUILD, and the browsers that it is tried in.
+// The folder of the page, given as BUILD, and the browsers that play it.
 import {createRequire} from 'node:module';
 import {resolve} from 'node:path';
 import {launchWebKit} from './webkit.mjs';
@@ -7,7 +7,7 @@ export const folder = resolve(process.env.BUILD ?? 'build-web');
 export const fetched = createRequire(folder + '/');
 const puppeteer = fetched('puppeteer-core');
 
-/// Debian's browsers: the one by its developer tools, the other by the standard protocol.
+/// Debian's browsers: Chromium by its developer tools, Firefox by the standard protocol.
 const browsers = {
   chrome: {executablePath: '/usr/bin/chromium', args: ['--no-sandbox']},
   firefox: {executablePath: '/usr/bin/firefox-esr'},

@@ -1,4 +1,4 @@
-// Plays on the page as a person does: page_test.mjs BROWSER, with the build folder as BUILD.
+// Plays on the page as a person does: page_test.mjs BROWSER. BUILD is the build folder.
 import assert from 'node:assert/strict';
 import {once} from 'node:events';
 import {readFileSync} from 'node:fs';
@@ -16,9 +16,8 @@ const file = `${folder}/velmoran.html`,
   html = readFileSync(file, 'utf8');
 const axe = readFileSync(fetched.resolve('axe-core/axe.min.js'), 'utf8');
 
-/// What runs in the page before its own scripts: questions of the tests, a place for what goes
-/// wrong, and a clock that stands still until `tick`, so many seconds after midnight. With null for
-/// these the clock is the browser's own.
+/// Runs in the page before its own scripts: helpers of the tests, a list of errors, and a clock
+/// that stands still until `tick`. `seconds` is its time of day; with null the browser's clock runs.
 function prepare(seconds) {
   window.all = (selector, read = element => element) =>
     [...document.querySelectorAll(selector)].map(read);
@@ -70,7 +69,7 @@ function prepare(seconds) {
   const {setTimeout, clearTimeout} = window;
   const Alarm = -1;
   window.setTimeout = (call, delay) => {
-    if (call.name != 'goOn') return setTimeout(call, delay); // the driver's own
+    if (call.name != 'goOn') return setTimeout(call, delay); // one of the driver's timers
     clock.tick = () => {
       clock.tick = null;
       clock.now += delay;
@@ -85,14 +84,14 @@ function prepare(seconds) {
   window.settle = () => {
     while (clock.tick && velmoran.awaited != 'box') clock.tick();
   };
-  // It is always past one o'clock, by fewer minutes than none: so that hours count, too.
+  // The hour is always 1 and the minutes make up for it: both must count.
   Date.prototype.getHours = () => 1;
   Date.prototype.getMinutes = () => Math.floor(seconds / 60) - 60;
   Date.prototype.getSeconds = () => seconds % 60;
   Date.prototype.getMilliseconds = () => 0;
 }
 
-// Serves the page with `prepare` before its policy, so that the page itself stays as it is.
+// Serves the page with `prepare` before its policy. The page itself is unchanged.
 const bodies = new Map();
 const requests = [];
 const server = createServer((request, answer) => {
@@ -100,14 +99,14 @@ const server = createServer((request, answer) => {
   answer.setHeader('Content-Type', 'text/html').end(bodies.get(request.url));
 });
 
-/// One page in a browser, with a hand of real input.
+/// A page in a browser, and a hand that plays it with real input.
 class Hand {
   static async open(browser, {view = Desk, seconds = 1, body = html, change = ''} = {}) {
     const hand = new Hand();
     hand.page = await browser.newPage();
     await hand.page.setViewport(view);
     await hand.page.bringToFront();
-    // Otherwise it pretends that every page is in front.
+    // Otherwise the browser treats every page as the one in front.
     if (browserName == 'chrome') await hand.page.emulateFocusedPage(false);
     const url = `/${bodies.size}`;
     bodies.set(
@@ -121,7 +120,7 @@ class Hand {
     return hand;
   }
 
-  /// A page whose splash and first box are over. The game waits for blue.
+  /// Opens the page and closes the first box. The game waits for blue.
   static async openBoard(browser, options) {
     const hand = await Hand.open(browser, options);
     await hand.has(() => clock.tick !== null);
@@ -136,14 +135,14 @@ class Hand {
     await this.page.close();
   }
 
-  /// The box goes at once, but the game goes on only once the page hears of that.
+  /// The box closes at once. The game goes on with the close event, which comes later.
   async closeBox(key = 'Enter') {
     await this.keys(key);
     await this.has(() => velmoran.awaited == 'input');
   }
 
   async has(condition) {
-    // A page that is just being left has no answer.
+    // While a page unloads it gives no answer.
     for (let tries = 500; !(await this.ask(condition).catch(() => false)); --tries) {
       assert(tries, `never came: ${condition}`);
       await rest(20);
@@ -169,7 +168,7 @@ class Hand {
   focus() {
     return this.ask(() => document.activeElement.firstChild.textContent || 'board');
   }
-  /// Accessibility as axe-core judges it.
+  /// Fails if axe-core has a serious finding.
   async judge(what) {
     await this.ask(`(() => {${axe}})()`);
     assert.deepEqual(
@@ -236,8 +235,8 @@ class Hand {
   }
 }
 
-/// Plays a recorded game: a drag a line, and behind it the board. It is played by events of the
-/// page's own, for a hand would take an hour.
+/// Plays a recorded game, one drag per line. It dispatches events itself: real input would take an
+/// hour.
 async function replay(lines) {
   all('#view')[0].setPointerCapture = () => {};
   const told = [];
@@ -253,8 +252,8 @@ async function replay(lines) {
   return [...told, all('dialog section')[0].textContent];
 }
 
-/// The recorded games: the second of the day that seeds one, then its turns and its end. The number
-/// of draws behind each turn is left out: one too many shows in the boards that follow.
+/// The recorded games: the second of the day that seeds each, its turns and its end. The number of
+/// draws is left out: one draw more shows in the boards that follow.
 function recordedGames() {
   return readFileSync('tests/data/games.txt', 'utf8')
     .trim()
@@ -302,7 +301,7 @@ check('a turn in real time from disk, at last hidden, and Exit', async () => {
   await hand.close();
 });
 
-// Nor does it touch anything, or scale its window.
+// WebKit's driver has no touch and no scale.
 if (browserName != 'webkit') {
   check('fingers on a phone', async () => {
     const view = {width: 360, height: 640, deviceScaleFactor: 3, hasTouch: true, isMobile: true};
@@ -372,7 +371,7 @@ if (browserName != 'webkit') {
         await image.decode();
         const canvas = new OffscreenCanvas(image.width, image.height).getContext('2d');
         canvas.drawImage(image, 0, 0);
-        // Past the discs, near the upper edge of the squares.
+        // Near the upper edge of the squares, where no disc is.
         const row = canvas.getImageData(4, 2, image.width - 8, 1).data;
         return [...new Set(new Uint32Array(row.buffer))];
       }, shot);
@@ -430,7 +429,7 @@ check('every end of a drag', async () => {
   const {page} = hand;
   const ends = {
     escape: () => hand.keys('Escape'),
-    // WebKit's driver would never let go of it.
+    // WebKit's driver would never release it.
     'second button': () =>
       browserName != 'webkit'
         ? page.mouse.down({button: 'right'})

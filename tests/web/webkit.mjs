@@ -1,5 +1,5 @@
-// Debian's WebKit by plain WebDriver: as much of a browser as the tests ask for. It has no headless
-// mode, and runs on a display of its own.
+// Debian's WebKit by plain WebDriver, with only what the tests need. It has no headless mode, so it
+// runs on a display of its own.
 import {spawn} from 'node:child_process';
 import {once} from 'node:events';
 import {existsSync, readdirSync} from 'node:fs';
@@ -55,8 +55,8 @@ class Page {
   async screenshot() {
     return Buffer.from(await this.call('GET', '/screenshot'), 'base64');
   }
-  /// The window is larger than the page by its address bar and the like. It is corrected until the
-  /// page has its size.
+  /// Sets the size of the page. The window is larger, by its address bar and the like: its size is
+  /// corrected until that of the page is right.
   async setViewport({width, height}) {
     let [outerWidth, outerHeight] = [width, height];
     for (let tries = 0; tries < 20; ++tries) {
@@ -74,7 +74,7 @@ class Page {
   }
 }
 
-/// The browser lies beside its library, whose folder bears the machine's name and the version.
+/// The browser is in the folder of its library, whose name has the architecture and the version.
 function miniBrowser() {
   return readdirSync('/usr/lib')
     .flatMap(machine =>
@@ -96,7 +96,7 @@ export async function launchWebKit() {
     env: {
       ...process.env,
       DISPLAY: ':' + String(number).trim(),
-      WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: '1', // or it does not start as root
+      WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: '1', // root cannot start it otherwise
     },
   });
   const ask = async (method, path, body) => {
