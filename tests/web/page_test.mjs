@@ -17,7 +17,7 @@ const file = `${folder}/velmoran.html`,
 const axe = readFileSync(fetched.resolve('axe-core/axe.min.js'), 'utf8');
 
 /// Runs in the page before its own scripts: helpers of the tests, a list of errors, and a clock
-/// that stands still until `tick`. `seconds` is its time of day; with null the browser's clock runs.
+/// that stands still until `tick`. `seconds` is its time of day; with null the real clock runs.
 function prepare(seconds) {
   window.all = (selector, read = element => element) =>
     [...document.querySelectorAll(selector)].map(read);
