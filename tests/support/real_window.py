@@ -110,12 +110,11 @@ class Game(Screen):
 
     def __exit__(self, failure, *_):
         if failure:
-            print("Screenshot:", self.take_screenshot(f"{sys.argv[1]}.{os.getpid()}"))
+            screenshot = pathlib.Path(f"{sys.argv[1]}.{os.getpid()}.xwd")
+            screenshot.write_bytes(self.memory)
+            print("Screenshot:", screenshot)
         self.server.kill()
         self.server.wait()
-
-    def take_screenshot(self, path):
-        return pathlib.Path(path + ".xwd").write_bytes(self.memory) and path + ".xwd"
 
     def stages(self):
         """Plays to the end of the computer's first turn. Yields the name of each stage reached."""
@@ -201,8 +200,7 @@ class Game(Screen):
         )
 
     def ended(self):
-        """Waits for the process to end. Returns exit code, seconds waited and lines of stderr."""
-        start = time.monotonic()
+        """Waits for the process to end. Returns the exit code and the lines of stderr."""
         until("the end", lambda: self.process.poll() is not None)
         self.errors.seek(0)
-        return self.process.returncode, time.monotonic() - start, self.errors.readlines()
+        return self.process.returncode, self.errors.readlines()
