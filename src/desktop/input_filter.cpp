@@ -22,7 +22,6 @@ bool InputFilter::eventFilter(QObject* watched, QEvent* event) {
         Put(InputEvent::Kind::CancelDrag);
       return false;
     case QEvent::WindowDeactivate:
-    case QEvent::WindowStateChange:
     case QEvent::Hide:
       Put(InputEvent::Kind::CancelDrag);
       return false;
