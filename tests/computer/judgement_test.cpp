@@ -79,21 +79,15 @@ Judgement Expected(const Position& now, const MoveRecord& move) {
       std::ranges::any_of(GreenHops(then), [&, from = from, to = to](const Move& hop) {
         return hop[0] == to && IsJump(hop) && hop[1] != from;
       });
-  const bool crowns = !now.GreenKing[piece] && to <= 4 && arrives == 0;
-  const int score = stands - arrives - exposed + saved;
-  const bool holds = Traps(now, piece, from);
-  const bool traps = Traps(now, piece, to);
-  return {stands, arrives, exposed, saved, score, attacks, crowns, holds, traps};
-}
-
-Position RandomBoard(std::mt19937& random, int pieces) {
-  std::string picture(Squares, '.');
-  for (; pieces > 0; --pieces) {
-    const std::size_t place = random() % Squares;
-    const bool isKing = place < 4 || place >= 28 || random() % 2 == 0;
-    picture[place] = "bgBG"[random() % 2 + (isKing ? 2 : 0)];
-  }
-  return Board(picture);
+  return {{"stands", stands},
+          {"arrives", arrives},
+          {"exposes", exposed},
+          {"defends", saved},
+          {"scores", stands - arrives - exposed + saved},
+          {"attacks", attacks},
+          {"crowns", !now.GreenKing[piece] && to <= 4 && arrives == 0},
+          {"holds", Traps(now, piece, from)},
+          {"traps", Traps(now, piece, to)}};
 }
 
 /// Shows the first board on which the two differ. Small boards come first.
@@ -105,11 +99,10 @@ TEST(Judgement, FollowsFromTheLegalMovesBeforeAndAfter) {
     ASSERT_EQ(moves.Count, std::ssize(GreenHops(position))) << DrawRows(position);
     for (int k = 0; k < moves.Count; ++k) {
       const MoveRecord& move = moves.Items[static_cast<std::size_t>(k)];
-      const Judgement expected = Expected(position, move);
       const Judgement judged = Judge(position, move);
-      for (std::size_t word = 0; word < Merits.size(); ++word) {
-        ASSERT_EQ(judged[word], expected[word])
-            << Merits[word] << ' ' << move.FromSquare << '-' << move.ToSquare << '\n'
+      for (const auto& [word, expected] : Expected(position, move)) {
+        ASSERT_EQ(judged.at(word), expected)
+            << word << ' ' << move.FromSquare << '-' << move.ToSquare << '\n'
             << DrawRows(position);
       }
     }

@@ -4,27 +4,21 @@
 
 namespace {
 
-/// There is no draw. Blue goes to and fro in its corner, where no green king can take it.
+/// There is no draw. Blue goes to and fro in its corner, where no green king can take it. The time
+/// of day seeds the new game.
 TEST(NewGame, AloneEndsAGameThatNobodyWins) {
   Desk desk(Board("G... .... .... .... .... .... .... ...B"));
-  desk.Draws({});
   for (int turn = 0; turn < 200; ++turn) {
-    desk.PlayTurn(turn % 2 == 0 ? std::vector{4, 8} : std::vector{8, 4});
+    desk.Drag(turn % 2 == 0 ? std::vector{4, 8} : std::vector{8, 4});
+    desk.RunUntilQuiet();
     ASSERT_TRUE(desk.host.Boxes.empty() && desk.form.position.BlueToMove) << "turn " << turn;
   }
+  desk.host.Midnight = 0.25;
   desk.Choose("mnuGame");
   desk.DeliverInput();
   EXPECT_EQ(Draw(desk.form.position), Draw(StartPosition()));
-}
-
-TEST(NewGame, IsSeededByItsTimeOfDay) {
-  Desk desk;
-  desk.host.Midnight = 86399.25;
-  desk.OpenBoard();
-  desk.Choose("mnuGame");
-  desk.RunUntilQuiet();
   Random expected;
-  expected.Randomize(86399.75);  // the first pause has passed
+  expected.Randomize(desk.host.SecondsSinceMidnight());
   EXPECT_EQ(desk.toolkit.random.Rnd(), expected.Rnd());
 }
 

@@ -3,8 +3,6 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <deque>
-#include <optional>
 
 #include "soak/watcher.h"
 
@@ -41,7 +39,8 @@ class Hand {
     desk.host.BoxTime = Any(std::vector<Instant>{0ms, 1ms, 150ms, 200ms, 500ms, 3s, 1h});
     for (int more = Roll(12); more > 9; --more) {
       const Instant exactly = 100ms * Roll(50);  // a tick may come at the same instant
-      desk.In(exactly + Roll(2) * 1ms * Roll(100), [this] { Disturb(); });
+      const Instant delay = exactly + Roll(2) * 1ms * Roll(100);
+      desk.host.At(desk.host.Now() + delay, [this] { Disturb(); });
     }
     if (desk.form.position.GameOver) {
       Roll(3) == 0 ? DragAnyhow() : Roll(4) == 0 ? Choose("mnuGame") : Leave();
@@ -50,6 +49,10 @@ class Hand {
     }
     desk.RunUntilQuiet();
     watcher.CheckRest();
+    const Control* front = ControlAt(desk.form.window, pointer);
+    Demand(desk.form.position.JumpPath[1] == 0 || desk.host.ShownDrag.Source ||
+               (front && front->Name == "lblSquare"),
+           "a drag that comes to nothing leaves its path");
   }
 
   void PlayTurn(const Move& move) {
@@ -62,20 +65,10 @@ class Hand {
 
   /// Replaces the position by one with kings: most games end before there are many.
   void Deal() {
-    std::mt19937 generator(static_cast<unsigned>(Roll(65536)));
-    const auto chance = [&](std::uint64_t percent) { return generator() % 100 < percent; };
-    const std::uint64_t crowded = 10 + generator() % 70;
-    const std::uint64_t greenShare = 10 + generator() % 80;
-    std::array left{Pieces, Pieces};
-    std::string picture(Squares, '.');
-    for (std::size_t place = 0; place < Squares; ++place) {
-      const bool isGreen = chance(greenShare);
-      const bool isKing = chance(40) || place < 4 || place >= 28;
-      if (chance(crowded) && left[std::size_t(isGreen)]-- > 0)
-        picture[place] = "bBgG"[isGreen * 2 + isKing];
-    }
-    const Position position = Board(picture);
-    if (left[1] < Pieces && !BlueMoves(position).empty()) watcher.Deal(position);
+    std::mt19937 random(static_cast<unsigned>(Roll(65536)));
+    const Position position = RandomBoard(random, Roll(40));
+    const bool hasGreen = position.GreenSquare[1] != 0;
+    if (hasGreen && !BlueMoves(position).empty()) watcher.Deal(position);
   }
 
   void DragByTheRules(const Move& move) {
@@ -143,21 +136,22 @@ class Hand {
   }
 
   void Send(Kind what, Point at = {}) {
-    if (watcher.Log) {
-      constexpr std::array Names{"press", "move", "release", "cancel the drag", "menu", "close"};
-      watcher.Log("  " + std::string(Names[std::size_t(what)]) + " at " + std::to_string(at.X) +
-                  ',' + std::to_string(at.Y));
-    }
+    constexpr std::array Names{"press", "move", "release", "cancel the drag", "menu", "close"};
+    watcher.Log("  " + std::string(Names[std::size_t(what)]) + " at " + std::to_string(at.X) + ',' +
+                std::to_string(at.Y));
+    pointer = at;
     Form* window = desk.form.window.Visible ? &desk.form.window : &desk.splash.window;
     desk.host.Put({.What = what, .Window = window, .At = at});
   }
 
   void Choose(const char* command) {
-    if (watcher.Log) watcher.Log(std::string("  ") + command);
+    watcher.Log(std::string("  ") + command);
     desk.Choose(command);
   }
 
-  void OpenHelp() { Choose(Any(std::vector{"mnuControls", "mnuAbout", "mnuPart1"})); }
+  void OpenHelp() {
+    Choose(Any(std::vector{"mnuControls", "mnuAbout", "mnuPart1", "mnuPart2", "mnuPart3"}));
+  }
 
   Point PointOn(int square) {
     const Control& label = desk.form.lblSquare[square];
@@ -186,6 +180,7 @@ class Hand {
   Desk& desk = watcher.desk;
   const int CellSide = desk.form.lblSquare[1].Width;
   Seed state;
+  Point pointer;
 };
 
 volatile Seed seedUnderWay = 0;
@@ -196,34 +191,22 @@ void PrintSeed(int signal) {
   std::_Exit(1);
 }
 
-/// Plays the game of this seed. Returns the number of the human's moves; empty if the game fails.
-/// Logs each change and the failure.
-std::optional<int> Play(Seed seed, const decltype(Watcher::Log)& log) {
+/// Plays the game of this seed and returns the number of the human's moves. If the game fails,
+/// prints the last lines of its log and ends the program.
+int Play(Seed seed, bool isLoud) {
   seedUnderWay = seed;
   Desk desk;
-  Watcher watcher(desk);
-  watcher.Log = log;
+  Watcher watcher(desk, isLoud);
   try {
     Hand(watcher, seed).PlayGame();
   } catch (const ProgramEnded&) {
+    return watcher.Moves;
   } catch (const std::exception& error) {
-    if (log) log("seed " + std::to_string(seed) + " fails: " + error.what());
-    return std::nullopt;
+    watcher.Log("seed " + std::to_string(seed) + " fails: " + error.what());
   }
-  return watcher.Moves;
-}
-
-void Print(const std::string& line) { std::puts(line.c_str()); }
-
-/// Plays a game that fails again, and prints the last lines of its log.
-void PrintFailure(Seed seed) {
-  std::deque<std::string> lines;
-  Play(seed, [&](const std::string& line) {
-    lines.push_back(line);
-    if (lines.size() > 13) lines.pop_front();
-  });
-  std::ranges::for_each(lines, Print);
+  watcher.PrintLog();
   std::printf("The whole game is printed by: soak 1 %llu\n", seed);
+  std::exit(1);
 }
 
 }  // namespace
@@ -239,11 +222,6 @@ int main(int count, char** arguments) {
   std::signal(SIGABRT, PrintSeed);
   std::signal(SIGSEGV, PrintSeed);
   long long moves = 0;
-  for (Seed seed = first; seed < first + games; ++seed) {
-    const std::optional<int> played = Play(seed, games == 1 ? Print : decltype(Watcher::Log){});
-    if (!played && games > 1) PrintFailure(seed);
-    if (!played) return 1;
-    moves += *played;
-  }
+  for (Seed seed = first; seed < first + games; ++seed) moves += Play(seed, games == 1);
   std::printf("%llu games, %lld human moves, no fault\n", games, moves);
 }

@@ -36,15 +36,27 @@ void Demand(bool isTrue, const char* fault) {
   if (!isTrue) throw Fault(fault);
 }
 
-Watcher::Watcher(Desk& watchedDesk) : desk(watchedDesk), last(StartPosition()) {
+Watcher::Watcher(Desk& watchedDesk, bool isLoudNow)
+    : desk(watchedDesk), isLoud(isLoudNow), last(StartPosition()) {
   desk.AfterEvent = [this] { CheckEvent(); };
   desk.host.OnBox = [this](const MessageBox& box) { CheckBox(box); };
 }
 
+void Watcher::Log(const std::string& line) {
+  if (isLoud) std::puts(line.c_str());
+  log.push_back(line);
+  if (log.size() > 13) log.pop_front();
+}
+
+void Watcher::PrintLog() const {
+  if (isLoud) return;
+  for (const std::string& line : log) std::puts(line.c_str());
+}
+
 bool Watcher::IsHumansTurn() const {
-  const Position& position = desk.form.position;
-  return desk.form.window.Visible && position.BlueToMove && !position.GameOver &&
-         desk.form.imgBlueChecker[1].DragMode == 1;
+  const frmVelmoran& form = desk.form;
+  return form.window.Visible && form.position.BlueToMove && !form.position.GameOver &&
+         !form.tmrBlink.Enabled && form.imgBlueChecker[1].DragMode == 1;
 }
 
 void Watcher::Deal(const Position& position) {
@@ -55,7 +67,7 @@ void Watcher::Deal(const Position& position) {
 void Watcher::CheckEvent() {
   Demand(++events < MostEvents, "the turn does not end");
   if (!desk.form.window.Visible) return;
-  if (Log) LogPosition();
+  LogPosition();
   CheckTables();
   CheckPictures();
   CheckBoard();
@@ -99,15 +111,15 @@ void Watcher::CheckPictures() const {
     const Control& green = form.imgGreenChecker[piece];
     checkPlace(position.BlueSquare[piece], blue);
     checkPlace(position.GreenSquare[piece], green);
-    const bool isBlueKing = position.BlueKing[piece];
-    const bool isGreenKing = position.GreenKing[piece];
-    const bool mayBeLit = form.tmrBlink.Enabled && form.BlinkChecker == piece;
-    const Control& lit =
-        isGreenKing ? form.picGreenKingHighlightREF : form.picGreenCheckerHighlightREF;
-    Demand(blue.Picture == (isBlueKing ? form.picBlueKingREF : form.picBlueCheckerREF).Picture &&
-               (green.Picture == PlainGreenPicture(form, piece) ||
-                (mayBeLit && green.Picture == lit.Picture)),
-           "a piece has the picture of another rank, or is lit without a blink");
+    const Control& blueBox =
+        position.BlueKing[piece] ? form.picBlueKingREF : form.picBlueCheckerREF;
+    const Control& lit = position.GreenKing[piece] ? form.picGreenKingHighlightREF
+                                                   : form.picGreenCheckerHighlightREF;
+    const bool isLit =
+        form.tmrBlink.Enabled && form.BlinkChecker == piece && form.BlinkCount % 2 == 1;
+    Demand(blue.Picture == blueBox.Picture &&
+               green.Picture == (isLit ? lit.Picture : PlainGreenPicture(form, piece)),
+           "a piece has the picture of another rank, or is lit at a wrong time");
   }
 }
 
@@ -165,7 +177,7 @@ void Watcher::CheckDrag() const {
 }
 
 void Watcher::CheckBox(const MessageBox& box) {
-  if (Log) Log("             box " + box.Title + ": " + box.Text.substr(0, box.Text.find('\r')));
+  Log("             box " + box.Title + ": " + box.Text.substr(0, box.Text.find('\r')));
   const Position& position = desk.form.position;
   Demand(!desk.host.ShownDrag.Source, "a drag goes on under a message box");
   if (box.Title == "Game Over") {
@@ -198,7 +210,7 @@ void Watcher::CheckRest() {
 }
 
 /// Logs the position if it has changed, or if a drag has moved.
-void Watcher::LogPosition() const {
+void Watcher::LogPosition() {
   if (desk.form.position == last && desk.host.ShownDrag.Pointer == lastDrag.Pointer) return;
   std::ostringstream line;
   line << std::setw(8) << desk.host.Now().count() / 1000 << " ms  ";

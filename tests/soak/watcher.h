@@ -1,6 +1,6 @@
 #pragma once
 
-#include <functional>
+#include <deque>
 #include <stdexcept>
 
 #include "support/desk.h"
@@ -25,7 +25,8 @@ void Demand(bool isTrue, const char* fault);
 /// - At rest the human can move, or the game is over.
 class Watcher {
  public:
-  explicit Watcher(Desk& watchedDesk);
+  /// If it is loud, it prints its log at once.
+  Watcher(Desk& watchedDesk, bool isLoud);
 
   /// Call this when the desk is quiet. Checks that the turn is over and that the game can go on.
   void CheckRest();
@@ -33,9 +34,14 @@ class Watcher {
   /// Replaces the position, in the human's turn.
   void Deal(const Position& position);
 
+  /// Adds a line to the log, which has a line for every change. It keeps the last thirteen.
+  void Log(const std::string& line);
+
+  /// Prints the log, unless that has been done.
+  void PrintLog() const;
+
   Desk& desk;
-  std::function<void(const std::string& line)> Log;  // gets a line for every change; may be empty
-  int Moves = 0;                                     // made by the human
+  int Moves = 0;  // made by the human
 
  private:
   bool IsHumansTurn() const;
@@ -46,8 +52,10 @@ class Watcher {
   void CheckGreenHop();
   void CheckDrag() const;
   void CheckBox(const MessageBox& box);
-  void LogPosition() const;
+  void LogPosition();
 
+  const bool isLoud;
+  std::deque<std::string> log;
   Position last;  // after the event before
   Drag lastDrag;
   bool wasHumansTurn = false;

@@ -1,5 +1,6 @@
 #include "support/board.h"
 
+#include <array>
 #include <ostream>
 #include <stdexcept>
 
@@ -36,6 +37,19 @@ Position Board(std::string_view picture) {
 }
 
 Position StartPosition() { return Board("gggg gggg gggg .... .... bbbb bbbb bbbb"); }
+
+Position RandomBoard(std::mt19937& random, int pieces) {
+  const auto greenShare = random() % 100;
+  std::array left{Pieces, Pieces};
+  std::string picture(Squares, '.');
+  for (; pieces > 0; --pieces) {
+    const std::size_t place = random() % Squares;
+    const bool isGreen = random() % 100 < greenShare;
+    const bool isKing = place < 4 || place >= 28 || random() % 2 == 0;
+    if (left[isGreen]-- > 0) picture[place] = "bBgG"[isGreen * 2 + isKing];
+  }
+  return Board(picture);
+}
 
 std::string Marks(const Position& position) {
   std::string marks = ' ' + std::string(Squares, '.');

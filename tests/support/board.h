@@ -1,6 +1,7 @@
 #pragma once
 
 #include <iosfwd>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,9 @@ Position Board(std::string_view picture);
 
 /// The position at the start of every game.
 Position StartPosition();
+
+/// A board with at most this many pieces, men and kings.
+Position RandomBoard(std::mt19937& random, int pieces);
 
 /// The letter of each square, 1 to 32, as in a picture. Index 0 is a blank.
 std::string Marks(const Position& position);

@@ -1,7 +1,6 @@
 #include "support/desk.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <stdexcept>
 
@@ -59,40 +58,15 @@ void PlacePosition(frmVelmoran& form, const Position& position) {
   }
 }
 
-void Desk::Draws(std::vector<double> values) {
-  // The values after the given ones yield each direction in turn, so that every retry ends.
-  toolkit.random.Script = [values = std::move(values), next = std::size_t{0}]() mutable {
-    constexpr std::array Others{0.1, 0.7, 0.3, 0.9};
-    const std::size_t index = next++;
-    return index < values.size() ? values[index] : Others[(index - values.size()) % 4];
-  };
-}
-
 void Desk::Drag(const std::vector<int>& squares) {
-  Press(squares.front());
-  for (const int square : squares) Move(square);
-  Release(squares.back());
-}
-
-void Desk::PlayTurn(const std::vector<int>& squares) {
-  Drag(squares);
-  RunUntilQuiet();
-}
-
-std::string Desk::PlayLegalTurn(const std::vector<int>& squares) {
-  const Position before = form.position;
-  const Position expected = Crowned(After(before, squares));
-  Drag(squares);
-  DeliverInput();
-  std::string drag;
-  for (const int square : squares) drag += std::to_string(square) + ' ';
-  if (!HasSameBoard(form.position, expected)) {
-    throw std::logic_error(
-        "the drag " + drag + "is legal, but is refused or makes another move\non       " +
-        ::Draw(before) + "\nleads to " + ::Draw(expected) + "\nnow      " + ::Draw(form.position));
-  }
-  RunUntilQuiet();
-  return drag + "| " + ::Draw(form.position) + " | " + std::to_string(toolkit.random.DrawCount);
+  const auto send = [this](InputEvent::Kind what, int square) {
+    const Control& label = form.lblSquare[square];
+    const Point middle{label.Left + label.Width / 2, label.Top + label.Height / 2};
+    host.Put({.What = what, .Window = &form.window, .At = middle});
+  };
+  send(InputEvent::Kind::Press, squares.front());
+  for (const int square : squares) send(InputEvent::Kind::Move, square);
+  send(InputEvent::Kind::Release, squares.back());
 }
 
 std::string Desk::PlayGame(int second) {
@@ -102,17 +76,20 @@ std::string Desk::PlayGame(int second) {
   Random hand;
   hand.Randomize(second);
   std::string game;
-  for (int turn = 0; !form.position.GameOver; ++turn) {
-    if (turn == MostTurns) return game + "no end\n";
+  for (int turn = 0; turn < MostTurns && !form.position.GameOver; ++turn) {
     const auto moves = CarefulMoves(form.position);
-    const int chosen = hand.Draw(static_cast<int>(moves.size()));
-    game += PlayLegalTurn(moves[static_cast<std::size_t>(chosen)]) + '\n';
+    const Move& move = moves[std::size_t(hand.Draw(static_cast<int>(moves.size())))];
+    const Position expected = Crowned(After(form.position, move));
+    Drag(move);
+    DeliverInput();
+    for (const int square : move) game += std::to_string(square) + ' ';
+    if (!HasSameBoard(form.position, expected)) {
+      return game + "is legal, but is refused or leads to " + ::Draw(form.position) + '\n';
+    }
+    RunUntilQuiet();
+    game += "| " + ::Draw(form.position) + " | " + std::to_string(toolkit.random.DrawCount) + '\n';
   }
-  return game + host.Boxes.back().Text + '\n';
-}
-
-void Desk::Pointer(InputEvent::Kind what, Point at) {
-  host.Put({.What = what, .Window = &form.window, .At = at});
+  return game + (form.position.GameOver ? host.Boxes.back().Text : "no end") + '\n';
 }
 
 void Desk::Choose(std::string_view name) {
@@ -139,9 +116,4 @@ void Desk::RunUntilQuiet() {
 bool Desk::IsTimerOn() const {
   return form.tmrPause.Enabled || form.tmrBlink.Enabled ||
          (splash.window.Visible && splash.tmrTimer.Enabled);
-}
-
-Point Desk::Middle(int square) const {
-  const Control& label = form.lblSquare[square];
-  return {label.Left + label.Width / 2, label.Top + label.Height / 2};
 }

@@ -11,7 +11,7 @@ void VirtualHost::WaitForInput(std::optional<Instant> until) {
 }
 
 void VirtualHost::ShowMessageBox(const MessageBox& box) {
-  Boxes.push_back({box, now});
+  Boxes.push_back(box);
   if (OnBox) OnBox(box);
   IsBoxOpen = true;
   const Instant closing = now + BoxTime;

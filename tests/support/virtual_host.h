@@ -15,11 +15,6 @@ struct Quiet {};
 /// so that they also run during a wait or while a message box is open.
 class VirtualHost : public Host {
  public:
-  /// A message box and when it opened.
-  struct ShownBox : MessageBox {
-    Instant At{0};
-  };
-
   Instant Now() override { return now; }
   double SecondsSinceMidnight() override {
     return Midnight + std::chrono::duration<double>(now).count();
@@ -38,7 +33,7 @@ class VirtualHost : public Host {
   /// Whether input waits or an action is booked.
   bool HasWork() const { return !Queue.empty() || !booked.empty(); }
 
-  std::vector<ShownBox> Boxes;
+  std::vector<MessageBox> Boxes;
   Instant BoxTime{0};   // how long a message box stays open
   double Midnight = 0;  // the time of day at instant 0, in seconds: it seeds the games
 
