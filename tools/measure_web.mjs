@@ -4,8 +4,9 @@
 // of the pointer to the changed outline in a drag, for steps of a pixel and of a square;
 // milliseconds of processor time of all browser processes in 10 s at rest, also with an empty page,
 // and in a computer's turn; KiB of the program's memory.
-import {execFileSync} from 'node:child_process';
+import {execSync} from 'node:child_process';
 import {readFileSync, statSync, writeFileSync} from 'node:fs';
+import {setTimeout as rest} from 'node:timers/promises';
 import {pathToFileURL} from 'node:url';
 import {gzipSync} from 'node:zlib';
 import {folder, launch} from '../tests/web/browsers.mjs';
@@ -18,38 +19,24 @@ const head = '<!DOCTYPE html><title>Empty</title><body><p>Empty</p><!--';
 writeFileSync(empty, head + '.'.repeat(size - head.length - 3) + '-->');
 
 const url = file => pathToFileURL(file).href;
-const rest = milliseconds => new Promise(done => setTimeout(done, milliseconds));
-const median = values => values.sort((a, b) => a - b)[Math.floor(values.length / 2)];
+const median = values => values.sort((a, b) => a - b)[Math.floor(values.length / 2)].toFixed(0);
 
 /// The processor time of a process and all its descendants, in milliseconds.
 function processorTime(root) {
-  const parents = new Map(
-    execFileSync('ps', ['-eo', 'pid=,ppid='])
-      .toString()
-      .trim()
-      .split('\n')
-      .map(line => line.trim().split(/\s+/).map(Number)),
-  );
+  const stats = execSync('cat /proc/[0-9]*/stat 2>&1 || true').toString(); // some have ended
+  const fields = /^(\d+) \(.*\) \w (\d+) (?:\S+ ){9}(\d+) (\d+)/gm; // the ids, then ticks
+  const processes = [...stats.matchAll(fields)].map(found => found.slice(1).map(Number));
+  const parents = new Map(processes);
   const isOurs = pid => pid == root || (parents.has(pid) && isOurs(parents.get(pid)));
-  let ticks = 0;
-  for (const pid of [...parents.keys()].filter(isOurs)) {
-    try {
-      const fields = readFileSync(`/proc/${pid}/stat`, 'utf8').split(') ')[1].split(' ');
-      ticks += Number(fields[11]) + Number(fields[12]);
-    } catch {
-      /* it has ended meanwhile */
-    }
-  }
-  return ticks * 10;
+  const ours = processes.filter(([pid]) => isOurs(pid));
+  return 10 * ours.reduce((ticks, [, , user, system]) => ticks + user + system, 0);
 }
 
 async function paintOf(browser, file) {
   const tab = await browser.newPage();
   await tab.goto(url(file));
-  const seen = await tab.waitForFunction(
-    () => performance.getEntriesByName('first-contentful-paint')[0]?.startTime,
-    {timeout: 10000},
-  );
+  const paint = "performance.getEntriesByName('first-contentful-paint')[0]?.startTime";
+  const seen = await tab.waitForFunction(paint);
   const time = await seen.jsonValue();
   await tab.close();
   return time;
@@ -61,74 +48,60 @@ async function costOf(browser, milliseconds) {
   return processorTime(browser.process().pid) - before;
 }
 
-async function measure(name) {
+/// Runs in the page: the microseconds of an event in a drag, for steps of a pixel and of a square.
+function costsOfEvents() {
+  const {x, y, width} = view.getBoundingClientRect(),
+    side = width / 8;
+  view.setPointerCapture = () => {};
+  const send = (type, buttons, right) => {
+    const place = {clientX: x + side / 2 + right, clientY: y + 5.5 * side};
+    view.dispatchEvent(new PointerEvent(type, {isPrimary: true, buttons, ...place}));
+  };
+  const costOf = step => {
+    const times = 1000,
+      start = performance.now();
+    for (let k = 1; k <= times; ++k) {
+      const before = view.lastElementChild.firstElementChild;
+      send('pointermove', 1, (k % 7) * step);
+      if (view.lastElementChild.firstElementChild == before) throw 'The outline has not moved.';
+    }
+    return ((performance.now() - start) / times) * 1000;
+  };
+  // The least of several rounds: the first ones still compile, and the machine may be busy.
+  const leastOf = step => Math.min(...Array.from({length: 8}, () => costOf(step))).toFixed(0);
+  send('pointerdown', 1, 0);
+  const costs = `${leastOf(1)} and ${leastOf(side)}`;
+  send('lostpointercapture', 0, 0); // the drag is over, and the pointer is free
+  return costs;
+}
+
+console.log(`${size} bytes, ${gzipSync(readFileSync(page), {level: 9}).length} gzipped`);
+for (const name of ['chrome', 'firefox']) {
   const browser = await launch(name);
-  const paints = {page: [], empty: []};
+  const paints = {[page]: [], [empty]: []};
   for (let run = 0; run < runs; ++run) {
-    paints.empty.push(await paintOf(browser, empty));
-    paints.page.push(await paintOf(browser, page));
+    for (const file of [empty, page]) paints[file].push(await paintOf(browser, file));
   }
   const tab = await browser.newPage();
   await tab.goto(url(empty));
   await rest(2000);
   const emptyAtRest = await costOf(browser, 10000);
   await tab.goto(url(page));
-  await tab.waitForFunction(() => document.querySelector('dialog').open, {timeout: 10000});
+  await tab.waitForSelector('dialog[open]');
   await tab.keyboard.press('Enter');
   await rest(2000);
   const atRest = await costOf(browser, 10000);
-  const events = await tab.evaluate(() => {
-    const view = document.querySelector('#view'),
-      area = view.getBoundingClientRect();
-    const outline = view.lastElementChild,
-      side = area.width / 8;
-    view.setPointerCapture = () => {};
-    const send = (type, buttons, x) =>
-      view.dispatchEvent(
-        new PointerEvent(type, {
-          isPrimary: true,
-          buttons,
-          clientX: area.x + x,
-          clientY: area.y + 5.5 * side,
-        }),
-      );
-    const costOf = step => {
-      const times = 1000,
-        start = performance.now();
-      for (let k = 1; k <= times; ++k) {
-        const before = outline.firstElementChild;
-        send('pointermove', 1, side / 2 + (k % 7) * step);
-        if (outline.firstElementChild == before) throw new Error('The outline has not moved.');
-      }
-      return ((performance.now() - start) / times) * 1000;
-    };
-    // The least of several rounds: the first ones still compile, and the machine may be busy.
-    const leastOf = step => Math.min(...Array.from({length: 8}, () => costOf(step))).toFixed(0);
-    send('pointerdown', 1, side / 2);
-    const costs = [leastOf(1), leastOf(side)].join(' and ');
-    send('pointermove', 0, side / 2); // without a button: the drag is over
-    return costs;
-  });
-  const area = await (await tab.$('#view')).boundingBox();
-  const at = (column, row) => [
-    area.x + ((column + 0.5) * area.width) / 8,
-    area.y + ((row + 0.5) * area.height) / 8,
-  ];
-  await tab.mouse.move(...at(0, 5));
+  const events = await tab.evaluate(costsOfEvents);
+  await tab.hover('[aria-label$=" square 9"]');
   await tab.mouse.down();
-  await tab.mouse.move(...at(1, 4));
+  await tab.hover('[aria-label$=" square 13"]');
   await tab.mouse.up();
   const turn = await costOf(browser, 3500);
-  const memory = await tab.evaluate(() => velmoran.program.memory.buffer.byteLength / 1024);
+  const memory = await tab.evaluate('program.memory.buffer.byteLength / 1024');
   await browser.close();
   console.log(
-    `${name}: splash ${median(paints.page).toFixed(0)} ms, empty page ${median(
-      paints.empty,
-    ).toFixed(0)} ms; an event ${events} us; 10 s at rest ${
-      atRest
-    } ms, empty page ${emptyAtRest} ms; a turn ${turn} ms; memory ${memory} KiB`,
+    `${name}: splash ${median(paints[page])} ms, empty page ${median(paints[empty])} ms;`,
   );
+  console.log(`  an event ${events} us; 10 s at rest ${atRest} ms, empty page ${emptyAtRest} ms;`);
+  console.log(`  a turn ${turn} ms; memory ${memory} KiB`);
 }
-
-console.log(`${size} bytes, ${gzipSync(readFileSync(page), {level: 9}).length} gzipped`);
-for (const name of ['chrome', 'firefox']) await measure(name);
