@@ -7,10 +7,8 @@ from real_window import BOARD, DOWN, START, UP, Game, Screen, until
 
 FAKE = {"LD_PRELOAD": "/usr/$LIB/faketime/libfaketime.so.1"}
 SLOW = FAKE | {"FAKETIME": "+0 x0.1"}  # the splash stays for 25 s
-NOON = FAKE | {
-    "FAKETIME": "2024-01-01 12:00:00",
-    "FAKETIME_DONT_FAKE_MONOTONIC": "1",
-}  # the clock seeds the game; this one offers a double jump early
+# The clock seeds the game. At this time it offers a double jump early.
+NOON = FAKE | {"FAKETIME": "2024-01-01 12:00:00", "FAKETIME_DONT_FAKE_MONOTONIC": "1"}
 
 
 def splash(game):
@@ -78,7 +76,9 @@ def drags(game):
         assert left > 0 and top > 9 and left + size[0] < width and top + size[1] < height, title
     game.play_to("turn")
     game.start("xev", "-geometry", "200x200+0+0")
-    other = until("another window", lambda: game.window("Event Tester"))[0]
+    focus = "getactivewindow getwindowname"
+    until("another window with the focus", lambda: game.do(focus) == "Event Tester\n")
+    other = game.window("Event Tester")[0]
     file_menu, outside = (game.left + 20, game.top - 8), (0, 300)
     for before, *way in (
         [[], outside, UP],
@@ -93,8 +93,8 @@ def drags(game):
         game.do(*way)
         until(f"the start picture after {way}", lambda: game.picture() == game.at_rest)
         game.do(14, UP)
-        game.move(9, 13)
-        until(f"a move after {way}", lambda: game.board() == START[:8] + ".bbbb" + START[13:])
+        game.move(12, 16)
+        until(f"a move after {way}", lambda: game.board() == START[:11] + "....b" + START[16:])
         new_game(game)
     game.do(file_menu, "click 1 key x")
     ended(game)
@@ -118,7 +118,9 @@ def scale_changes(game):
     game.play_to("last_blink")
     game.run("wmctrl", "-ir", game.name, "-e", f"0,{game.width - 300},50,900,900")
     until("the moved window", lambda: game.measure() or game.left == game.width - 300)
-    game.do("key ctrl+n")
+    game.do("key ctrl+n key ctrl+c")
+    until("the help over it", lambda: game.window(title))
+    game.do("key Return")
     game.move(9, 13)
     assert game.window(" Velmoran")[1:] == (game.width - 300, 50, *window[3:])
 
@@ -137,7 +139,7 @@ def rules(game):
 
 def ended(game):
     """The program prints nothing, and has started no message bus."""
-    assert (ended := game.ended()) == (0, []), ended
+    assert (end := game.ended()) == (0, []), end
     assert not os.path.exists(game.env["HOME"] + "/.dbus")
 
 

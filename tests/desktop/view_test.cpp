@@ -33,9 +33,7 @@ void QAccessible::updateAccessibility(QAccessibleEvent* event) {
 
 namespace {
 
-constexpr QRgb White = qRgb(255, 255, 255), Black = qRgb(0, 0, 0), Red = qRgb(255, 0, 0),
-               Cyan = qRgb(1, 255, 255);
-constexpr QRgb Blue = qRgb(36, 1, 254), Green = qRgb(36, 255, 2), DarkGreen = qRgb(1, 127, 1);
+constexpr QRgb White = qRgb(255, 255, 255);
 
 /// The number of pixels in row `y` with exactly this colour.
 int Count(const QImage& image, int y, QRgb colour) {
@@ -44,50 +42,31 @@ int Count(const QImage& image, int y, QRgb colour) {
   return count;
 }
 
-TEST(View, PaintsEachPictureToThePixel) {
-  Desk desk(Board("g... .... .... .... .... .... .... bB.."));
-  const struct {
-    const Control& Box;
-    QRgb Ground, Disc, Middle;
-  } cases[] = {{desk.form.picBlueCheckerREF, Black, Blue, Blue},
-               {desk.form.picGreenCheckerREF, Black, Green, Green},
-               {desk.form.picBlueKingREF, Black, Blue, Cyan},
-               {desk.form.picGreenKingREF, Black, Green, DarkGreen},
-               {desk.form.picGreenCheckerHighlightREF, Green, Black, Black},
-               {desk.form.picGreenKingHighlightREF, Green, Black, DarkGreen}};
-  FormView view(desk.form.window);
-  for (const auto& [box, ground, disc, middle] : cases) {
-    desk.form.imgBlueChecker[1].Picture = box.Picture;  // on 1, the bottom left corner
-    view.Refresh({});
-    const QImage cell = view.grab().toImage().copy(0, 455, 66, 65);
-    for (const int x : {0, 2, 62, 64}) EXPECT_EQ(cell.pixel(x, 32), ground) << box.Name;
-    for (const int end : {3, 61}) {
-      EXPECT_EQ(cell.pixel(end, 32), disc) << box.Name;
-      EXPECT_EQ(cell.pixel(32, end), disc) << box.Name;
-    }
-    EXPECT_EQ(cell.pixel(32, 32), middle) << box.Name;
-    // A star's arms are widest a little above the middle; a man's disc is whole there.
-    EXPECT_EQ(Count(cell, 26, disc) > 50, disc == middle) << box.Name;
-    EXPECT_EQ(cell.pixel(65, 0), Red) << "the next square";
-  }
-}
-
-TEST(View, HasSharpEdgesAtAnyScale) {
-  for (const double ratio : {1.25, 1.5, 2.0}) {
+TEST(View, PaintsSharpPicturesAtAnyScale) {
+  const Picture* const pictures[] = {&BlueCheckerPicture, &GreenKingPicture,
+                                     &GreenKingHighlightPicture};
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0}) {
     const int size = static_cast<int>(65 * ratio);
+    const int middle = size / 2;
     QImage image(size, size, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);
     QPainter painter(&image);
-    PaintPicture(painter, BlueCheckerPicture, QRectF(0, 0, 65, 65));
-    const int blurred = size - Count(image, size / 2, Black) - Count(image, size / 2, Blue);
-    EXPECT_LE(blurred, 2) << ratio;
-    EXPECT_NEAR(Count(image, size / 2, Blue), 59 * ratio, 2) << ratio;
+    for (const Picture* picture : pictures) {
+      SCOPED_TRACE(testing::Message() << picture->Shapes.size() << " shapes at " << ratio);
+      PaintPicture(painter, *picture, QRectF(0, 0, 65, 65));
+      const auto colour = [&](std::size_t shape) {
+        return ToQColor(picture->Shapes[shape].Fill).rgb();
+      };
+      const QImage edge = image.copy(0, middle, qRound(20 * ratio), 1);  // no star is so wide
+      EXPECT_NEAR(Count(edge, 0, colour(0)), 3 * ratio, 1);
+      EXPECT_NEAR(Count(edge, 0, colour(1)), 17 * ratio, 1.5);
+      EXPECT_EQ(image.pixel(middle, middle), colour(picture->Shapes.size() - 1));
+    }
     PaintDragOutline(painter, QRectF(10.3, 10.3, 40, 40));
-    const int line = qRound(ratio);
-    EXPECT_EQ(Count(image, size / 2, White), 2 * line) << ratio;
-    EXPECT_EQ(Count(image.transformed(QTransform().rotate(90)), size / 2, White), 2 * line);
-    const int edge = qRound(10.3 * ratio);
-    EXPECT_EQ(image.pixel(edge, size / 2), White) << "the outer line is white";
+    const int lines = 2 * qRound(ratio);
+    EXPECT_EQ(Count(image, middle, White), lines) << ratio;
+    EXPECT_EQ(Count(image.transformed(QTransform().rotate(90)), middle, White), lines) << ratio;
+    EXPECT_EQ(image.pixel(qRound(10.3 * ratio), middle), White) << "the outer line is white";
   }
 }
 
@@ -162,12 +141,11 @@ class ShownWindow {
     QApplication::sendEvent(view, &event);
   }
 
-  /// Empties the event queue. One letter each: press, move, release,
-  /// cancel, N for a menu command, X for close.
+  /// Empties the event queue. One letter each: press, move, release, cancel.
   std::string Events() {
     std::string letters;
     for (const InputEvent& event : std::exchange(host.Queue, {})) {
-      letters += "PMRCNX"[static_cast<int>(event.What)];
+      letters += "PMRC"[static_cast<int>(event.What)];
     }
     return letters;
   }
@@ -177,32 +155,20 @@ class ShownWindow {
   FormView* view = nullptr;
 };
 
-TEST(Window, QueuesTheUsersInput) {
+TEST(Window, CancelsDragsAndLosesNoPress) {
   Desk desk(StartPosition());
   ShownWindow shown(desk);
-  QWidget* window = shown.view->window();
-  auto* menu = window->findChild<QMenu*>();
-  const auto left = Qt::LeftButton;
-  shown.Mouse(QEvent::MouseButtonPress, left, left);
-  shown.Mouse(QEvent::MouseMove, Qt::NoButton, left);
-  shown.Mouse(QEvent::MouseButtonRelease, left, Qt::NoButton);
-  EXPECT_EQ(shown.Events(), "PMR");
-  shown.Mouse(QEvent::MouseButtonDblClick, left, left);
+  shown.Mouse(QEvent::MouseButtonDblClick, Qt::LeftButton, Qt::LeftButton);
   EXPECT_EQ(shown.Events(), "P") << "second press of a double click";
   shown.Mouse(QEvent::MouseMove, Qt::NoButton, Qt::NoButton);
   EXPECT_EQ(shown.Events(), "CM") << "the release was lost";
+  auto* menu = shown.view->window()->findChild<QMenu*>();
   menu->popup({});
   EXPECT_EQ(shown.Events(), "C") << "menu opened";
-  menu->actions().front()->trigger();
-  EXPECT_EQ(shown.Events(), "N");
   menu->close();
   shown.Events();
-  window->showMinimized();
+  shown.view->window()->showMinimized();
   EXPECT_EQ(shown.Events().substr(0, 1), "C") << "minimised";
-  window->hide();
-  EXPECT_EQ(shown.Events().substr(0, 1), "C") << "hidden";
-  window->close();
-  EXPECT_EQ(shown.Events(), "X");
 }
 
 TEST(Window, AnnouncesPiecesToAssistiveTechnology) {

@@ -75,14 +75,11 @@ class Screen:
             self.settings_daemon = self.start("xsettingsd", "-c", settings)
         until("the scale", lambda: f"DPI {dots}" in self.run("dump_xsettings"))
 
-    def window(self, title, is_splash=None):
-        """The id, left, top, width and height of a visible window; None if there is none.
-
-        The splash and the main window have the same title. The splash is the wide one."""
+    def window(self, title):
+        """The id, left, top, width and height of a visible window; None if there is none."""
         for name in self.run("xdotool", "search", "--onlyvisible", "--name", f"^{title}$").split():
             text = self.run("xwininfo", "-id", name)
-            place = re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", text)
-            if place and is_splash in (None, int(place[2]) > 2 * int(place[3])):
+            if place := re.findall(r"(?:Absolute.*|Width|Height): +(-?\d+)", text):
                 return name, *map(int, place)
 
     def rows(self, left, top, width, height):
@@ -118,9 +115,8 @@ class Game(Screen):
 
     def stages(self):
         """Plays to the end of the computer's first turn. Yields the name of each stage reached."""
-        self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran", True))
+        self.name, *self.splash = until("the splash", lambda: self.window(" Velmoran"))
         yield "splash"
-        until("the main window", lambda: self.window(" Velmoran", False))
         until("the help", lambda: self.window("Velmoran Game Controls"))
         self.measure()
         yield "help"
@@ -138,7 +134,7 @@ class Game(Screen):
         moved = START[:9] + "." + START[10:13] + "b" + START[14:]
         until("the move", lambda: self.board() == moved)
         yield "pause"
-        self.blinking = until("a flash", self.flashing)
+        until("a flash", self.flashing)
         yield "blink"
         # A square that is just being painted may look empty, so wait for the whole answer.
         until(
@@ -150,7 +146,7 @@ class Game(Screen):
 
     def measure(self):
         """Reads the geometry of the board, below the menu bar. Its side may differ from 520."""
-        self.name, self.left, top, self.side, height = self.window(" Velmoran", False)
+        self.name, self.left, top, self.side, height = self.window(" Velmoran")
         self.top = top + height - self.side
         self.client_area = self.left, self.top, self.side, self.side
         # Without the edge: at a fractional scale its pixels may blend with the menu bar.
@@ -175,9 +171,9 @@ class Game(Screen):
         return PIECES.get((ground, disc), "?")
 
     def flashing(self):
-        """The highlighted square, or None. Reads one pixel a square, to be fast."""
-        lit = (n for n in range(1, 33) if self.colours(*self.middle(n, -30, -30)) == {GREEN})
-        return next(lit, None)
+        """Whether a square is highlighted. Reads one pixel a square, to be fast: a flash is short,
+        but a turn has four of them."""
+        return any(self.colours(*self.middle(n, -30, -30)) == {GREEN} for n in range(1, 33))
 
     def board(self):
         return "".join(map(self.piece, range(1, 33)))
