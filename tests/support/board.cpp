@@ -1,7 +1,6 @@
 #include "support/board.h"
 
 #include <array>
-#include <ostream>
 #include <stdexcept>
 
 namespace {
@@ -79,12 +78,4 @@ std::string DrawRows(const Position& position) {
     }
   }
   return picture;
-}
-
-void PrintTo(const Position& position, std::ostream* out) {
-  *out << Draw(position) << (position.BlueToMove ? " blue" : " green")
-       << (position.GameOver ? " over" : "") << (position.NewGameRequested ? " new game" : "");
-  for (const Square square : position.JumpPath) {
-    if (square != 0) *out << ' ' << square;
-  }
 }

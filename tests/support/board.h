@@ -1,6 +1,5 @@
 #pragma once
 
-#include <iosfwd>
 #include <random>
 #include <string>
 #include <string_view>
@@ -27,6 +26,3 @@ std::string Draw(const Position& position);
 
 /// The picture of a position on 8 lines, for failure messages.
 std::string DrawRows(const Position& position);
-
-/// Prints picture, flags and jump path, for failed tests and logs.
-void PrintTo(const Position& position, std::ostream* out);
