@@ -53,9 +53,10 @@ std::vector<Case> ReadCases() {
 std::vector<int> SquaresOf(const std::string& drag) {
   std::vector<int> squares;
   std::istringstream in(drag);
-  for (int square = 0; in >> square; in.get()) {
-    if (square < 1 || square > Squares) throw std::invalid_argument("no squares: " + drag);
-    squares.push_back(square);
+  for (int square = 0; in >> square; in.get()) squares.push_back(square);
+  const auto isSquare = [](int square) { return 1 <= square && square <= Squares; };
+  if (squares.empty() || !std::ranges::all_of(squares, isSquare)) {
+    throw std::invalid_argument("squares are numbers from 1 to 32, not " + drag);
   }
   return squares;
 }

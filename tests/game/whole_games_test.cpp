@@ -36,13 +36,13 @@ TEST(WholeGames, AreReplayedAsRecorded) {
   std::istringstream in(played);
   std::string game;
   int turn = 0;
-  for (std::string line, expected; std::getline(in, line); ++turn) {
+  for (std::string seen, expected; std::getline(in, seen); ++turn) {
     std::getline(recorded, expected);
-    if (line.starts_with("game ")) {
-      game = line;
+    if (seen.starts_with("game ")) {
+      game = seen;
       turn = 0;
     }
-    ASSERT_EQ(line, expected) << game << ", turn " << turn
+    ASSERT_EQ(seen, expected) << game << ", turn " << turn
                               << "\nIf play was meant to change, record the games again. "
                                  "CONTRIBUTING.md says how.";
   }
