@@ -32,16 +32,6 @@ function processorTime(root) {
   return 10 * ours.reduce((ticks, [, , user, system]) => ticks + user + system, 0);
 }
 
-async function paintOf(browser, file) {
-  const tab = await browser.newPage();
-  await tab.goto(url(file));
-  const paint = "performance.getEntriesByName('first-contentful-paint')[0]?.startTime";
-  const seen = await tab.waitForFunction(paint);
-  const time = await seen.jsonValue();
-  await tab.close();
-  return time;
-}
-
 async function costOf(browser, milliseconds) {
   const before = processorTime(browser.process().pid);
   await rest(milliseconds);
@@ -80,7 +70,13 @@ for (const name of ['chrome', 'firefox']) {
   const browser = await launch(name);
   const paints = {[page]: [], [empty]: []};
   for (let run = 0; run < runs; ++run) {
-    for (const file of [empty, page]) paints[file].push(await paintOf(browser, file));
+    for (const file of [empty, page]) {
+      const tab = await browser.newPage();
+      await tab.goto(url(file));
+      const paint = "performance.getEntriesByName('first-contentful-paint')[0]?.startTime";
+      paints[file].push(await (await tab.waitForFunction(paint)).jsonValue());
+      await tab.close();
+    }
   }
   const tab = await browser.newPage();
   await tab.goto(url(empty));

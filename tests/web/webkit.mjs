@@ -61,19 +61,13 @@ function makePage(call) {
 }
 
 export async function launchWebKit() {
-  const display = spawn('Xvfb', ['-displayfd', '1', '-screen', '0', '1600x1200x24'], {
-    stdio: ['ignore', 'pipe', 'ignore'],
-  });
+  const stdio = ['ignore', 'pipe', 'ignore'];
+  const display = spawn('Xvfb', ['-displayfd', '1', '-screen', '0', '1600x1200x24'], {stdio});
   const [number] = await once(display.stdout, 'data');
+  process.env.DISPLAY = ':' + String(number).trim();
+  process.env.WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS = '1'; // root cannot start it otherwise
   const port = 10000 + (process.pid % 50000);
-  const driver = spawn('WebKitWebDriver', [`--port=${port}`], {
-    stdio: 'ignore',
-    env: {
-      ...process.env,
-      DISPLAY: ':' + String(number).trim(),
-      WEBKIT_DISABLE_SANDBOX_THIS_IS_DANGEROUS: '1', // root cannot start it otherwise
-    },
-  });
+  const driver = spawn('WebKitWebDriver', [`--port=${port}`], {stdio: 'ignore'});
   const ask = async (method, path, body) => {
     const url = `http://127.0.0.1:${port}/session${path}`;
     const {value} = await (await fetch(url, {method, body: JSON.stringify(body)})).json();
