@@ -33,8 +33,3 @@ type Imports = {
   end(): never;
   fail(text: number): never;
 };
-
-interface Window {
-  /** For the tests. `awaited` is empty while the program does not wait. */
-  velmoran: {readonly program?: Program; readonly awaited: '' | 'input' | 'box'};
-}

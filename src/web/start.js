@@ -39,12 +39,4 @@ async function start() {
   enter(run);
 }
 
-window.velmoran = {
-  get program() {
-    return program;
-  },
-  get awaited() {
-    return awaited;
-  },
-};
 start().catch(leave);
