@@ -52,15 +52,11 @@ class Screen:
         header = struct.unpack(">20I", self.memory[:80])
         self.width, self.pixels = header[4], header[0] + 12 * header[19]
 
-    def start(self, *command, stderr=subprocess.DEVNULL, **more):
+    def start(self, *command, **more):
         """Starts a program. The kernel kills it when this process ends."""
-        return subprocess.Popen(
-            ["setpriv", "--pdeathsig", "KILL", *command],
-            env=self.env,
-            stdout=subprocess.DEVNULL,
-            stderr=stderr,
-            **more,
-        )
+        command = "setpriv", "--pdeathsig", "KILL", *command
+        silent = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+        return subprocess.Popen(command, env=self.env, **silent | more)
 
     def run(self, *command):
         return subprocess.run(command, env=self.env, capture_output=True, text=True).stdout
@@ -133,7 +129,6 @@ class Game(Screen):
         self.do(UP)
         moved = START[:9] + "." + START[10:13] + "b" + START[14:]
         until("the move", lambda: self.board() == moved)
-        yield "pause"
         until("a flash", self.flashing)
         yield "blink"
         # A square that is just being painted may look empty, so wait for the whole answer.
