@@ -47,14 +47,13 @@ function makePage(call) {
     /// Sets the size of the page. The window is larger, by its address bar and the like: its size
     /// is corrected until that of the page is right.
     async setViewport({width, height}) {
-      let [outerWidth, outerHeight] = [width, height];
-      for (let tries = 0; tries < 20; ++tries) {
-        await call('POST', '/window/rect', {width: outerWidth, height: outerHeight});
+      let outer = {width, height};
+      for (;;) {
+        await call('POST', '/window/rect', outer);
         await rest(50);
-        const [innerWide, innerHigh] = await evaluate('[innerWidth, innerHeight]');
-        if (innerWide == width && innerHigh == height) return;
-        outerWidth += width - innerWide;
-        outerHeight += height - innerHigh;
+        const [wide, high] = await evaluate('[innerWidth, innerHeight]');
+        if (wide == width && high == height) return;
+        outer = {width: outer.width + width - wide, height: outer.height + height - high};
       }
     },
   };
