@@ -66,7 +66,7 @@ class Hand {
   /// Replaces the position by one with kings: most games end before there are many.
   void Deal() {
     std::mt19937 random(static_cast<unsigned>(Roll(65536)));
-    const Position position = RandomBoard(random, Roll(40));
+    const Position position = RandomBoard(random, 10 + Roll(70));
     const bool hasGreen = position.GreenSquare[1] != 0;
     if (hasGreen && !BlueMoves(position).empty()) watcher.Deal(position);
   }
@@ -139,7 +139,7 @@ class Hand {
     constexpr std::array Names{"press", "move", "release", "cancel the drag", "menu", "close"};
     watcher.Log("  " + std::string(Names[std::size_t(what)]) + " at " + std::to_string(at.X) + ',' +
                 std::to_string(at.Y));
-    pointer = at;
+    if (!desk.host.IsBoxOpen) pointer = at;  // an open box drops all input
     Form* window = desk.form.window.Visible ? &desk.form.window : &desk.splash.window;
     desk.host.Put({.What = what, .Window = window, .At = at});
   }

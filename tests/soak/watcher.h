@@ -29,11 +29,6 @@ inline bool HasPiece(const Table<Square, Pieces>& squares) {
 
 inline bool HasJump(const std::vector<Move>& moves) { return std::ranges::any_of(moves, IsJump); }
 
-inline bool HasJumpFrom(int square, const std::vector<Move>& moves) {
-  return std::ranges::any_of(
-      moves, [&](const Move& move) { return IsJump(move) && move.front() == square; });
-}
-
 /// The text that must announce the end of the game now. Empty if the game goes on.
 inline std::string EndOf(const Position& position) {
   if (!HasPiece(position.BlueSquare)) return "Blue has been captured!  YOU LOSE!!!";
@@ -208,7 +203,8 @@ class Watcher {
     chain = hop->back();
     Demand(now.GreenSquare[desk.form.BlinkChecker] == chain,
            "the piece that blinks is not the one that moves");
-    const bool isLast = !IsJump(*hop) || !HasJumpFrom(chain, GreenHops(now));
+    const auto isNext = [&](const Move& next) { return IsJump(next) && next.front() == chain; };
+    const bool isLast = !IsJump(*hop) || std::ranges::none_of(GreenHops(now), isNext);
     Demand(isLast == now.BlueToMove, "green stops a chain too early, or its turn goes on");
   }
 

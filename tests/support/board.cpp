@@ -37,15 +37,15 @@ Position Board(std::string_view picture) {
 
 Position StartPosition() { return Board("gggg gggg gggg .... .... bbbb bbbb bbbb"); }
 
-Position RandomBoard(std::mt19937& random, int pieces) {
-  const auto greenShare = random() % 100;
+Position RandomBoard(std::mt19937& random, int crowded) {
+  const auto chance = [&](int percent) { return static_cast<int>(random() % 100) < percent; };
+  const int greenShare = 10 + static_cast<int>(random() % 80);
   std::array left{Pieces, Pieces};
   std::string picture(Squares, '.');
-  for (; pieces > 0; --pieces) {
-    const std::size_t place = random() % Squares;
-    const bool isGreen = random() % 100 < greenShare;
-    const bool isKing = place < 4 || place >= 28 || random() % 2 == 0;
-    if (left[isGreen]-- > 0) picture[place] = "bBgG"[isGreen * 2 + isKing];
+  for (std::size_t place = 0; place < Squares; ++place) {
+    const bool isGreen = chance(greenShare);
+    const bool isKing = chance(40) || place < 4 || place >= 28;
+    if (chance(crowded) && left[isGreen]-- > 0) picture[place] = "bBgG"[isGreen * 2 + isKing];
   }
   return Board(picture);
 }

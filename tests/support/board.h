@@ -15,8 +15,8 @@ Position Board(std::string_view picture);
 /// The position at the start of every game.
 Position StartPosition();
 
-/// A board with at most this many pieces, men and kings.
-Position RandomBoard(std::mt19937& random, int pieces);
+/// A board of men and kings. `crowded`: how many of 100 squares hold a piece, about.
+Position RandomBoard(std::mt19937& random, int crowded);
 
 /// The letter of each square, 1 to 32, as in a picture. Index 0 is a blank.
 std::string Marks(const Position& position);
