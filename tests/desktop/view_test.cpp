@@ -166,6 +166,8 @@ TEST(Window, CancelsDragsAndLosesNoPress) {
   shown.Events();
   shown.view->window()->showMinimized();
   EXPECT_EQ(shown.Events().substr(0, 1), "C") << "minimised";
+  shown.view->window()->hide();
+  EXPECT_EQ(shown.Events().substr(0, 1), "C") << "hidden";
 }
 
 TEST(Window, AnnouncesPiecesToAssistiveTechnology) {
