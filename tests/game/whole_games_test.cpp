@@ -14,9 +14,9 @@
 namespace {
 
 constexpr const char* File = VELMORAN_DATA "/games.txt";
-constexpr int Seconds[] = {3, 12, 23, 35, 95, 96};
+constexpr std::ptrdiff_t Games = 6;
 
-/// Each of these must occur in some game. If one does not, record games of other seconds.
+/// Each of these must occur in some game.
 constexpr const char* Cases[] = {"Blue has been captured",
                                  "Green has been captured",
                                  "Blue cannot move",
@@ -25,31 +25,54 @@ constexpr const char* Cases[] = {"Blue has been captured",
                                  "[.bg]G",                    // a green king
                                  "\\n\\d+ \\d+ \\d+ \\d+ "};  // three jumps of blue
 
+/// How many of the cases occur.
+std::ptrdiff_t CasesIn(const std::string& games) {
+  return std::ranges::count_if(
+      Cases, [&](const char* shown) { return std::regex_search(games, std::regex(shown)); });
+}
+
+std::string Play(int second) {
+  return "game " + std::to_string(second) + '\n' + Desk().PlayGame(second);
+}
+
+/// Tries one second after the other. Keeps a game that ends and shows a case more, or any that ends
+/// once all cases occur.
+void Record() {
+  std::string kept;
+  std::ptrdiff_t cases = 0, games = 0;
+  for (int second = 0; games < Games && second < 10'000; ++second) {
+    const std::string game = Play(second);
+    const std::ptrdiff_t now = CasesIn(kept + game);
+    if (game.ends_with("no end\n") || (now == cases && cases < std::ssize(Cases))) continue;
+    kept += game;
+    cases = now;
+    ++games;
+  }
+  std::ofstream(File) << kept;
+}
+
 /// Shows the first turn that differs.
 TEST(WholeGames, AreReplayedAsRecorded) {
-  std::string played;
-  for (const int second : Seconds) {
-    played += "game " + std::to_string(second) + '\n' + Desk().PlayGame(second);
-  }
-  if (std::getenv("VELMORAN_RECORD")) std::ofstream(File) << played;
+  if (std::getenv("VELMORAN_RECORD")) Record();
   std::ifstream recorded(File);
-  std::istringstream in(played);
-  std::string game;
-  int turn = 0;
-  for (std::string seen, expected; std::getline(in, seen); ++turn) {
-    std::getline(recorded, expected);
-    if (seen.starts_with("game ")) {
-      game = seen;
+  std::istringstream played;
+  std::string all, game;
+  std::ptrdiff_t games = 0, turn = 0;
+  for (std::string expected, seen; std::getline(recorded, expected); ++turn) {
+    all += expected + '\n';
+    if (expected.starts_with("game ")) {
+      game = expected;
+      ++games;
       turn = 0;
+      played = std::istringstream(Play(std::stoi(expected.substr(5))));
     }
+    std::getline(played, seen);
     ASSERT_EQ(seen, expected) << game << ", turn " << turn
                               << "\nIf play was meant to change, record the games again. "
                                  "CONTRIBUTING.md says how.";
   }
-  EXPECT_EQ(recorded.get(), EOF) << File << " has more games";
-  for (const char* shown : Cases) {
-    EXPECT_TRUE(std::regex_search(played, std::regex(shown))) << "occurs in no game: " << shown;
-  }
+  EXPECT_EQ(games, Games) << File;
+  EXPECT_EQ(CasesIn(all), std::ssize(Cases)) << "a way to end, a king or a chain is in no game";
 }
 
 }  // namespace

@@ -70,7 +70,7 @@ void Desk::Drag(const std::vector<int>& squares) {
 }
 
 std::string Desk::PlayGame(int second) {
-  constexpr int MostTurns = 60;
+  constexpr int MostTurns = 24;
   host.Midnight = second;
   OpenBoard();
   Random hand;

@@ -28,7 +28,7 @@ class Desk {
   /// Plays a game with a board opened at this second after midnight, which seeds it. Takes a random
   /// legal drag, if possible one after which green cannot jump. Returns a line for each turn: the
   /// drag, the board after green's answer and the number of draws so far. The last line tells the
-  /// end of the game, or why it was broken off: after 60 turns, or as a legal drag was refused.
+  /// end of the game, or why it was broken off: after 24 turns, or as a legal drag was refused.
   std::string PlayGame(int second);
 
   /// Chooses a menu command by its name.
