@@ -95,6 +95,22 @@ TEST(Menu, ReachesEachCommandOnce) {
                          "Rules of Velmoran (Part 2)", "Rules of Velmoran (Part 3)"}));
 }
 
+TEST(Pictures, ShowSideAndRankWithoutColour) {
+  Desk desk;
+  const auto brightness = [](const Control& box) {  // of the disc, as the eye sees it
+    const Color& color = box.Picture->Shapes[1].Fill;
+    return 2 * color.Red + 7 * color.Green + color.Blue;
+  };
+  EXPECT_GT(brightness(desk.form.picGreenCheckerREF), 3 * brightness(desk.form.picBlueCheckerREF));
+  EXPECT_GT(brightness(desk.form.picGreenKingREF), 3 * brightness(desk.form.picBlueKingREF));
+  const auto hasStar = [](const Control& box) {
+    return box.Picture->Shapes.back().Outline == PictureShape::Kind::Polygon;
+  };
+  EXPECT_TRUE(hasStar(desk.form.picBlueKingREF) && hasStar(desk.form.picGreenKingREF));
+  EXPECT_FALSE(hasStar(desk.form.picBlueCheckerREF) || hasStar(desk.form.picGreenCheckerREF));
+  EXPECT_NE(desk.form.picGreenKingHighlightREF.Picture, desk.form.picGreenKingREF.Picture);
+}
+
 TEST(Splash, ShowsTheIconAndGivesWayToTheBoardAndTheHelp) {
   Desk desk;
   const Picture* icon = desk.form.window.Icon;
