@@ -139,6 +139,9 @@ TEST_F(ToolkitTest, AClickIsPressedAndReleasedOnTheSameControl) {
     Send(Release, to);
   }
   EXPECT_EQ(ticks, (Ticks{7, 0}));
+  image.Events = &events;
+  for (const InputEvent::Kind what : {Press, CancelDrag, Release}) Send(what, {50, 50});
+  EXPECT_EQ(ticks, (Ticks{7, 0})) << "a drag is no click, not even a cancelled one";
 }
 
 TEST_F(ToolkitTest, FormsComeToTheFrontAndClose) {
