@@ -117,7 +117,9 @@ std::string Follow(const Position& position, const std::vector<int>& drag, doubl
   const auto add = [&](const std::string& what) {
     course += (course.empty() ? "" : ", ") + std::to_string((desk.host.Now() - start) / 1ms) + what;
   };
-  desk.host.OnBox = [&](const MessageBox& box) { add(' ' + box.Text); };
+  desk.host.OnBox = [&](const MessageBox& box) {
+    add(' ' + box.Text.substr(0, box.Text.find('\r')));
+  };
   desk.Drag(drag);
   desk.DeliverInput();
   desk.AfterEvent = [&, last = desk.form.position]() mutable {
@@ -194,7 +196,7 @@ std::string AnswerTo(const Position& board, const std::string& question) try {
   return fault.what();
 }
 
-/// Shows the first wrong answer with its board, and the first of seven more rules on a line each.
+/// Shows the first wrong answer of each rule, of at most eight. The board of the first is drawn.
 TEST(Rules, HoldOnSmallBoards) {
   std::ostringstream report;
   std::set<std::string> broken;
@@ -204,7 +206,8 @@ TEST(Rules, HoldOnSmallBoards) {
     if (seen == expected) continue;
     if (++faults == 1) report << DrawRows(board);
     if (!broken.insert(rule).second || broken.size() > 8) continue;
-    report << rule << ": " << question << ": expected " << expected << ", is " << seen << '\n';
+    report << rule << ": " << question << ": expected " << expected << ", is " << seen << ", on "
+           << Draw(board) << '\n';
   }
   if (faults > 0)
     ADD_FAILURE() << report.str() << faults << " wrong answers, " << broken.size() << " rules";
