@@ -23,7 +23,7 @@ def splash(game):
 
 
 def whole(game):
-    """Two captures in one leap of the pointer, then New Game and Exit during the computer's turn."""
+    """Two captures in one leap of the pointer, then New Game and Exit in the computer's turn."""
     for move in (12, 15), (7, 12), (10, 13), (5, 23):
         game.move(*move)
     until("two captures", lambda: game.board().count("g") == 10)

@@ -1,4 +1,4 @@
-"""Plays a short game under a Wayland compositor at fractional and double scale: wayland_test.py PROGRAM.
+"""Plays a short game under a Wayland compositor at two scales: wayland_test.py PROGRAM.
 
 The compositor has its one output in a window that fills an X server of its own, so input and pixels
 are those of any other game in a real window."""
