@@ -61,6 +61,7 @@ TEST(WholeGames, AreReplayedAsRecorded) {
   for (std::string expected, seen; std::getline(recorded, expected); ++turn) {
     all += expected + '\n';
     if (expected.starts_with("game ")) {
+      ASSERT_FALSE(std::getline(played, seen)) << game << " is cut short";
       game = expected;
       ++games;
       turn = 0;
@@ -71,6 +72,7 @@ TEST(WholeGames, AreReplayedAsRecorded) {
                               << "\nIf play was meant to change, record the games again. "
                                  "CONTRIBUTING.md says how.";
   }
+  EXPECT_FALSE(std::getline(played, game)) << "the last game is cut short";
   EXPECT_EQ(games, Games) << File;
   EXPECT_EQ(CasesIn(all), std::ssize(Cases)) << "a way to end, a king or a chain is in no game";
 }
