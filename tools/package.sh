@@ -63,7 +63,7 @@ touch "$scratch/root/var/lib/dpkg/status"
 quietly apt-get install --simulate "$deb"
 in_scratch_root --install "$deb"
 game=$scratch/root/usr/games/velmoran
-python3 -B tests/desktop/real_window_test.py "$game" exited_by_menu_at_turn
+python3 -B tests/desktop/real_window_test.py "$game" rules
 in_scratch_root --purge velmoran
 left=$(find "$scratch/root" -mindepth 1 -not -path "$scratch/root/var*")
 [[ ! $left ]] || fail "files were left: $left"
